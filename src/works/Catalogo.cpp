@@ -1,0 +1,210 @@
+#include "works/Catalogo.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "works/Declaraciones.h"
+#include "works/FileIo.h"
+#include "works/Form.h"
+#include "works/Subrut.h"
+
+namespace vardena {
+
+const std::vector<CatalogRow>& Catalogo()
+{
+    static const std::vector<CatalogRow> rows = {
+        {0, "CE", "MENU", 145, "", ""},
+        {1, "CE", "DATOSGEN", 145, "DAGE", "Datos"},
+        {2, "CK", "FRMACCIO", 145, "ACCI", "Datos"},
+        {3, "HJ", "FRMVIGHORM", 181, "HVIG", "Hormigón"},
+        {4, "HK", "FRMVIGREGHORM", 182, "HVIR", "Hormigón"},
+        {5, "HP", "FRMPILHORM", 183, "HPIL", "Hormigón"},
+        {6, "HU", "FRMFORJUNID", 185, "FORU", "Hormigón"},
+        {7, "HS", "FRMFORJSITU", 953, "FORS", "Hormigón"},
+        {8, "HR", "FRMFORJRET", 184, "FORR", "Hormigón"},
+        {9, "HQ", "FRMFORMACI", 954, "FORP", "Hormigón"},
+        {10, "HV", "FRMABACO", 186, "ABAC", "Hormigón"},
+        {11, "HW", "FRMMENSCORTA", 187, "HMEN", "Hormigón"},
+        {12, "HY", "FRMVIGPARED", 188, "HVPR", "Hormigón"},
+        {13, "HZ", "FRMESCHORM", 955, "ESCH", "Hormigón"},
+        {14, "LJ", "FRMVIGMET", 189, "AVIG", "Acero"},
+        {15, "LP", "FRMPILMET", 190, "APIL", "Acero"},
+        {16, "LS", "FRMBASMET", 956, "ABAS", "Acero"},
+        {17, "LQ", "FRMFORJACER", 191, "FORA", "Acero"},
+        {18, "LZ", "FRMESCMET", 957, "ESCA", "Acero"},
+        {19, "MB", "FRMVIGMADE", 192, "MVIG", "Madera"},
+        {20, "MC", "FRMPILMADE", 193, "MPIL", "Madera"},
+        {21, "MD", "FRMFORMADE", 194, "FORM", "Madera"},
+        {22, "ME", "FRMESCMADE", 958, "ESCM", "Madera"},
+        {23, "MF", "FRMMUROS", 195, "MURF", "Fábrica"},
+        {24, "MI", "FRMMDINT", 959, "MDIN", "Fábrica"},
+        {25, "ZA", "FRMZAP", 196, "ZAIS", "Cimentación"},
+        {26, "ZB", "FRMZAPCOMB", 197, "ZACB", "Cimentación"},
+        {27, "ZC", "FRMZAPCORR", 198, "ZACR", "Cimentación"},
+        {28, "ZI", "FRMPILOTES", 199, "ZPIL", "Cimentación"},
+        {29, "ZM", "FRMMUROH", 200, "MUSO", "Cimentación"},
+        {30, "ZO", "FRMMUROCONT", 201, "MUCO", "Cimentación"},
+        {31, "ZR", "FRMMUROANCLADO", 960, "MUAN", "Cimentación"},
+        {32, "ZT", "FRMTALUD", 961, "TALU", "Cimentación"},
+        {33, "DP", "FRMDATOSPROY", 898, "DAPR", "Datos"},
+        {34, "CS", "FRMSUELO", 1188, "TERR", "Cimentación"},
+        {35, "MH", "FRMMCERR", 898, "MURC", "Fábrica"},
+    };
+    return rows;
+}
+
+void LlenaCatalogo(Declaraciones& d)
+{
+    for (const auto& r : Catalogo()) {
+        d.CatalogoRotulo[static_cast<size_t>(r.row)] = d.Msg(r.label);
+        d.CatalogoCodigo[static_cast<size_t>(r.row)] = r.code;
+        d.CatalogoForm[static_cast<size_t>(r.row)] = r.form;
+    }
+}
+
+std::string CodigoDeForm(Declaraciones& d, std::string_view formName)
+{
+    std::string upper(formName);
+    std::transform(upper.begin(), upper.end(), upper.begin(), [](unsigned char c) { return std::toupper(c); });
+    for (size_t i = 0; i < d.CatalogoForm.size(); ++i) {
+        // The catalogue may not be filled yet in a program that never loaded a pack.
+        const std::string form = d.CatalogoForm[i].empty() ? Catalogo()[i].form : d.CatalogoForm[i];
+        if (form == upper)
+            return d.CatalogoCodigo[i].empty() ? Catalogo()[i].code : d.CatalogoCodigo[i];
+    }
+    d.ui.MsgBox(d.Msg(180), mb::Critical, d.Msg(165));
+    Halt("form " + std::string(formName) + " has no row in the element catalogue");
+}
+
+int FilaDeMenu(std::string_view menuCode)
+{
+    for (const auto& r : Catalogo())
+        if (menuCode == r.menu)
+            return r.row;
+    return -1;
+}
+
+
+std::vector<std::string> ListaElementos(const Declaraciones& d, const std::string& folder)
+{
+    std::vector<std::string> out;
+    const auto& rows = Catalogo();
+    for (size_t row = 1; row < rows.size(); ++row) {
+        const std::string code = rows[row].code;
+        // Row 2 and the CE rows: code CE is reached by row 1 only.
+        if (code == "CE" && row != 1)
+            continue;
+        auto files = FilesEndingWith(folder, ".~" + code);
+        if (files.empty())
+            continue;
+        out.push_back(d.Msg(rows[row].label));
+        for (const auto& f : files) {
+            std::string shown = f.substr(0, f.size() - 4);
+            if (row == 1 && SameNameNoCase(shown, "DESCR"))
+                shown = d.Msg(178);
+            else if (row == 1 && SameNameNoCase(shown, "DATOS"))
+                shown = d.Msg(179);
+            out.push_back(" · " + shown);
+        }
+    }
+    return out;
+}
+
+void ListaElementos(const Declaraciones& d, const std::string& folder, Control& list)
+{
+    list.Clear();
+    for (const auto& line : ListaElementos(d, folder))
+        list.AddItem(line);
+}
+
+std::string SettingDefault(std::string_view section, std::string_view key)
+{
+    struct Def {
+        const char* section;
+        const char* key;
+        const char* value;
+    };
+    static const Def defs[] = {
+        {"Obra", "Directorio", ""},
+        {"Obra", "Nombre", ""},
+        {"Preferencias", "Unidades", "0"},
+        {"Preferencias", "VerCarpetas", "No"},
+        {"Preferencias", "SiempreVisible", "No"},
+        {"Preferencias", "BuscaVersion", "No"},
+        {"Preferencias", "Aviso", "Si"},
+        {"Preferencias", "CapturaPantallas", "No"},
+        {"Preferencias", "CapturaPantallasFormato", "BMP"},
+        {"Preferencias", "IconoCarpeta", "No"},
+        {"Preferencias", "AsociarIcono", "No"},
+        {"Preferencias", "Lenguaje", "Español"},
+    };
+    for (const auto& d : defs)
+        if (section == d.section && key == d.key)
+            return d.value;
+    return {};
+}
+
+std::string Setting(Declaraciones& d, std::string_view section, std::string_view key)
+{
+    return d.settings().GetSetting(kSettingsApp, section, key, SettingDefault(section, key));
+}
+
+void SaveSetting(Declaraciones& d, std::string_view section, std::string_view key, std::string_view value)
+{
+    d.settings().SaveSetting(kSettingsApp, section, key, value);
+}
+
+void NombreDat(Declaraciones& d, std::string_view name, std::string_view mode)
+{
+    if (!SameNameNoCase(name, "NOMBRE.DAT"))
+        Halt("NombreDat called with " + std::string(name));
+    std::error_code ec;
+    if (mode == "L") {
+        d.UnidadObra.clear();
+        d.DirObras.clear();
+        d.NombreObra.clear();
+        d.CarpetaObra.clear();
+        d.UnidadesPref = 0;
+        std::string dir = Setting(d, "Obra", "Directorio");
+        if (dir.size() < 2 || !std::filesystem::is_directory(dir, ec))
+            dir.clear();
+        if (dir.empty()) {
+            std::string own = ConBarra(d.DirPrograma) + d.Msg(1292) + " Vardena 3";
+            dir = std::filesystem::is_directory(own, ec) ? own : d.DirPrograma;
+            SaveSetting(d, "Obra", "Directorio", dir);
+        }
+        d.DirObras = dir;
+        d.UnidadObra = dir.substr(0, 2);
+        std::string nombre = Setting(d, "Obra", "Nombre");
+        if (!nombre.empty() && !std::filesystem::is_directory(ConBarra(d.DirObras) + nombre, ec))
+            nombre.clear();
+        d.NombreObra = nombre;
+        d.CarpetaObra = ConBarra(d.DirObras) + d.NombreObra;
+        std::string u = Setting(d, "Preferencias", "Unidades");
+        d.UnidadesPref = static_cast<int16_t>(ValComa(u));
+    } else if (mode == "G") {
+        SaveSetting(d, "Obra", "Directorio", d.DirObras);
+        SaveSetting(d, "Obra", "Nombre", d.NombreObra);
+        SaveSetting(d, "Preferencias", "Unidades", std::to_string(d.UnidadesPref));
+    } else {
+        Halt("NombreDat called with mode " + std::string(mode));
+    }
+}
+
+std::vector<std::string> ListaObras(const std::string& folder)
+{
+    std::vector<std::string> out;
+    std::error_code ec;
+    std::filesystem::directory_iterator it(folder, ec), end;
+    for (; !ec && it != end; it.increment(ec)) {
+        std::error_code fe;
+        if (!it->is_directory(fe))
+            continue;
+        if (FindNoCase(it->path().string(), "DESCR.~CE"))
+            out.push_back(it->path().filename().string());
+    }
+    SortNoCase(out);
+    return out;
+}
+
+}  // namespace vardena

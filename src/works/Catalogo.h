@@ -1,0 +1,47 @@
+#pragma once
+// The element catalogue, the work folder's contents list, the settings of the program and
+// the current work's location.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vardena {
+
+struct Declaraciones;
+class Control;
+
+struct CatalogRow {
+    int row;
+    const char* code;
+    const char* form;   // upper case, as CodigoDeForm compares it
+    int label;          // message number
+    const char* menu;   // menu code, "" when none
+    const char* family;
+};
+// The 36 rows, in the order of the contents list.
+const std::vector<CatalogRow>& Catalogo();
+
+void LlenaCatalogo(Declaraciones& d);
+// The code of a form by its name; a form outside the catalogue shows message 180 and halts.
+std::string CodigoDeForm(Declaraciones& d, std::string_view formName);
+// Catalogue row of a menu code, or -1.
+int FilaDeMenu(std::string_view menuCode);
+
+// The contents list of a work folder: for every catalogue row from 1 on that has files, its
+// label as a header, then " · " and each file name less its extension.
+std::vector<std::string> ListaElementos(const Declaraciones& d, const std::string& folder);
+void ListaElementos(const Declaraciones& d, const std::string& folder, Control& list);
+
+// The current work's location, kept in the settings store ("NOMBRE.DAT" is only a tag).
+void NombreDat(Declaraciones& d, std::string_view name, std::string_view mode);
+
+// A setting of the program, with the default of its key.
+std::string Setting(Declaraciones& d, std::string_view section, std::string_view key);
+void SaveSetting(Declaraciones& d, std::string_view section, std::string_view key, std::string_view value);
+std::string SettingDefault(std::string_view section, std::string_view key);
+
+// The works in a folder: its sub-folders that hold a description file (any case), by name.
+std::vector<std::string> ListaObras(const std::string& folder);
+
+}  // namespace vardena

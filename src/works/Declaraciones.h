@@ -1,0 +1,114 @@
+#pragma once
+// The shared state of a running program: the message table, the current work, the unit
+// system, the catalogue and the building's general data. One object, owned by the
+// application and passed by reference, so that tests can make as many as they need.
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/Platform.h"
+#include "works/Ui.h"
+
+namespace vardena {
+
+// Program version: major 3, minor 50.
+inline constexpr int kVersionMajor = 3;
+inline constexpr int kVersionMinor = 50;
+inline constexpr double kProgramVersion = kVersionMajor + kVersionMinor / 100.0;
+inline constexpr const char* kProductWord = "Vardena";
+inline constexpr const char* kSettingsApp = "Vardena 3";
+
+inline constexpr int kMaxMessages = 2000;
+inline constexpr int kMaxFloors = 16;
+inline constexpr int kMaxBasements = 4;
+inline constexpr int kCatalogRows = 36;
+
+// 16-bit flags: -1 true, 0 false.
+inline constexpr int16_t kTrue = -1;
+inline constexpr int16_t kFalse = 0;
+
+struct Declaraciones {
+    Declaraciones(Ui& ui, Platform& platform) : ui(ui), platform(platform) { Mensajes.resize(kMaxMessages + 1); }
+
+    Ui& ui;
+    Platform& platform;
+
+    // Message table, entries 0 to 2000. A message that the pack lacks reads as empty.
+    std::vector<std::string> Mensajes;
+    const std::string& Msg(int n) const
+    {
+        static const std::string empty;
+        return n >= 0 && n < static_cast<int>(Mensajes.size()) ? Mensajes[static_cast<size_t>(n)] : empty;
+    }
+    std::string Lenguaje = "Español";
+
+    // Current location.
+    std::string UnidadObra;
+    std::string DirObras;
+    std::string NombreObra;
+    std::string CarpetaObra;
+    std::string DirPrograma;
+    std::string FormActivo;
+
+    int16_t Unidades = 1;
+    int16_t UnidadesPref = 0;
+    float VersionObra = 0;
+    float VersionArchivo = 0;
+    int16_t Cargando = kFalse;
+    std::string ErrorOrigen;
+    // Set by the check step of every element (a no-op here).
+    int16_t ResultadoCalculo = 0;
+
+    // The element catalogue.
+    std::array<std::string, kCatalogRows> CatalogoRotulo;
+    std::array<std::string, kCatalogRows> CatalogoCodigo;
+    std::array<std::string, kCatalogRows> CatalogoForm;
+
+    // General data of the building, in internal units (t, m, t/m2).
+    int16_t NPlantasSobre = 1;
+    int16_t NPlantasBajo = 0;
+    // Level tables: index 0 is the roof, 1..NPlantasSobre the floors; S arrays 1..NPlantasBajo.
+    std::array<float, kMaxFloors + 1> GenPProP{}, GenConcP{}, GenSobrP{}, GenSTabP{};
+    std::array<std::string, kMaxFloors + 1> GenCUsoP{};
+    std::array<float, kMaxBasements + 1> GenPProS{}, GenConcS{}, GenSobrS{}, GenSTabS{};
+    std::array<std::string, kMaxBasements + 1> GenCUsoS{};
+    // Enclosure wall layers 1..6, and the total in item 7 of GenValor.
+    std::array<std::string, 7> GenDescr{};
+    std::array<float, 8> GenValor{};
+    // Load steps: 1..4 days, 5..6 shares, 7..10 long-term factors.
+    std::array<float, 11> GenDia{};
+    // Storey heights, one per level, rows 0..NPlantasSobre+NPlantasBajo-1.
+    std::array<float, kMaxFloors + kMaxBasements> GenCot{};
+    int16_t GenHorm = 0, GenAcero = 0, GenControl = 0;
+    int16_t GenChHormigon = kFalse;
+    int16_t GenAcP = 0;
+    // The index stored beside GenAcP; kept so that a rewrite holds what was read.
+    int16_t GenAcP2 = 0;
+    int16_t GenChAcero = kFalse;
+    int16_t GenResis = 0, GenServi = 0;
+    int16_t GenChMadera = kFalse;
+    float GenResFab = 0, GenCoefMin = 0, GenDensFabr = 0;
+    int16_t GenCatControl = 0, GenCatEjec = 0;
+    int16_t GenChFabrica = kFalse;
+    float GenTens = 0;
+    int16_t GenChTerreno = kFalse;
+    // The factor at the end of the general data; 0.04 when a file of version 3 lacks it.
+    float GenFactor = 0.04f;
+    float GenFckHorm = 0;
+
+    // Sets the general data to those of a new work, as the general-data form draws them.
+    void GeneralDataDefaults();
+
+    // One pass of the message loop, where a window system runs one; nothing headless.
+    std::function<void()> DoEvents;
+    // The capture of a form's image after a save, when the setting asks for one.
+    std::function<void(class Form&, const std::string& recordPath)> Captura;
+
+    // The settings store of the platform.
+    SettingsStore& settings() const { return *platform.settings; }
+};
+
+}  // namespace vardena

@@ -1,0 +1,381 @@
+#include "works/Registros.h"
+
+#include <cmath>
+
+#include "works/Catalogo.h"
+#include "works/Codepage.h"
+#include "works/Declaraciones.h"
+#include "works/FileIo.h"
+#include "works/Form.h"
+#include "works/Subrut.h"
+#include "works/VbInput.h"
+
+namespace vardena {
+namespace {
+
+bool IsUserSection(std::string_view perfil) { return SameNameNoCase(perfil, "xxx") || SameNameNoCase(perfil, "otro"); }
+
+std::string LTrim(std::string s)
+{
+    size_t k = s.find_first_not_of(' ');
+    return k == std::string::npos ? std::string() : s.substr(k);
+}
+
+// The properties a composite control writes, in the order of the given format.
+std::vector<std::string> CompositeProps(const Control& c, bool named)
+{
+    if (c.kind() != Kind::UCPerfil)
+        return StoredProperties(c.kind());
+    if (IsUserSection(c.Get("Perfil"))) {
+        if (named)
+            return {"Num", "Perfil", "Ancho", "Canto", "Area", "Ix", "Iy"};
+        return {"Num", "Perfil", "Canto", "Ancho", "Area", "Ix", "Iy"};
+    }
+    if (named)
+        return {"Num", "Perfil", "Ancho", "Tamano"};
+    return {"Num", "Perfil", "Tamano", "Ancho"};
+}
+
+bool PropertyBelongs(Kind k, std::string_view prop)
+{
+    if (k == Kind::UCPerfil) {
+        for (const char* p : {"Num", "Perfil", "Ancho", "Canto", "Area", "Ix", "Iy", "Tamano"})
+            if (prop == p)
+                return true;
+        return false;
+    }
+    for (const auto& p : StoredProperties(k))
+        if (prop == p)
+            return true;
+    return false;
+}
+
+// A failure while reading a record, to be shown in the error window.
+struct ReadFailure {
+    int number;
+    std::string description;
+};
+
+// Runs `read` until it succeeds, showing each failure in the error window under `origin`.
+// "Reintentar" runs it again; any other answer ends the program.
+template <typename Fn>
+ReadOutcome WithErrorWindow(Declaraciones& d, const char* origin, const std::string& path, Fn read)
+{
+    for (;;) {
+        ReadFailure failure{0, {}};
+        try {
+            return read();
+        } catch (const FieldError& e) {
+            failure = {e.number(), path + ": " + e.what()};
+        } catch (const PropertyError& e) {
+            failure = {e.number(), path + ": " + e.what()};
+        } catch (const FileError& e) {
+            failure = {53, e.what()};
+        }
+        d.ErrorOrigen = origin;
+        if (!d.ui.ErrorFrm(origin, failure.number, failure.description))
+            throw ProgramHalt(failure.description);
+    }
+}
+
+std::string ReadRecordText(const std::string& path)
+{
+    std::string bytes = ReadFileBytes(path);
+    if (!LooksLikeText(bytes))
+        throw FileError(path, "holds bytes that are not text; it is not a record");
+    return Cp1252ToUtf8(bytes);
+}
+
+std::vector<std::string> SplitLines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::string cur;
+    for (size_t i = 0; i < text.size(); ++i) {
+        char c = text[i];
+        if (c == '\r' || c == '\n') {
+            lines.push_back(cur);
+            cur.clear();
+            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+                ++i;
+        } else {
+            cur += c;
+        }
+    }
+    if (!cur.empty())
+        lines.push_back(cur);
+    return lines;
+}
+
+}  // namespace
+
+int CmbHormAIndiceGuardado(int listIndex)
+{
+    if (listIndex == 0)
+        return 0;
+    if (listIndex == 1 || listIndex == 2)
+        return listIndex - 4;
+    return listIndex - 3;
+}
+
+int CmbHormDeIndiceGuardado(int stored)
+{
+    if (stored > 0)
+        return stored + 3;
+    if (stored < 0)
+        return stored + 4;
+    return 0;
+}
+
+std::string VersionLine()
+{
+    return std::string(kProductWord) + " " + std::to_string(kVersionMajor) + "\t" + Formato00Punto(kProgramVersion);
+}
+
+std::string PositionalText(const Form& form)
+{
+    std::string out;
+    for (const Control* c : form.StoredControls()) {
+        out += QuoteField(c->Name());
+        switch (c->kind()) {
+        case Kind::ComboBox: {
+            int i = c->ListIndex();
+            if (c->Name() == "CmbHorm")
+                i = CmbHormAIndiceGuardado(i);
+            out += "," + IntegerField(i);
+            break;
+        }
+        case Kind::TextBox: out += "," + QuoteField(c->Text()); break;
+        case Kind::OptionButton: out += "," + BoolField(c->OptionValue()); break;
+        case Kind::CheckBox: out += "," + IntegerField(c->CheckValue()); break;
+        default:
+            for (const auto& p : CompositeProps(*c, false))
+                out += "," + QuoteField(c->Get(p));
+        }
+        out += "\n";
+    }
+    return out;
+}
+
+std::string NamedText(const Form& form)
+{
+    std::string out = VersionLine() + "\n";
+    for (const Control* c : form.StoredControls()) {
+        const std::string first = c->Label() + " [" + std::string(KindName(c->kind())) + "]";
+        auto line = [&](bool isFirst, std::string_view prop, const std::string& value) {
+            out += (isFirst ? first : std::string()) + "\t." + std::string(prop) + "\t" + value + "\n";
+        };
+        switch (c->kind()) {
+        case Kind::TextBox: line(true, "Text", c->Text()); break;
+        case Kind::ComboBox: line(true, "ListIndex", std::to_string(c->ListIndex())); break;
+        case Kind::CheckBox: line(true, "Value", std::to_string(c->CheckValue())); break;
+        case Kind::OptionButton: line(true, "Value", c->OptionValue() ? "True" : "False"); break;
+        default: {
+            bool isFirst = true;
+            for (const auto& p : CompositeProps(*c, true)) {
+                line(isFirst, p, LTrim(c->Get(p)));
+                isFirst = false;
+            }
+        }
+        }
+    }
+    return out;
+}
+
+void FormGuardaFile(const Form& form, const std::string& path) { WriteFileAtomic(path, ToDiskText(PositionalText(form))); }
+
+void FormGuardaFile2(const Form& form, const std::string& path) { WriteFileAtomic(path, ToDiskText(NamedText(form))); }
+
+ReadOutcome FormLeeFile(Form& form, const std::string& path)
+{
+    Declaraciones& d = form.decl();
+    return WithErrorWindow(d, "Subrut_FormLeeFile", path, [&]() -> ReadOutcome {
+        d.VersionArchivo = 3.01f;
+        const std::string text = ReadRecordText(path);
+        FieldReader r(text);
+        for (Control* c : form.StoredControls()) {
+            const std::string stored = r.Text();
+            switch (c->kind()) {
+            case Kind::ComboBox: {
+                int i = r.Integer();
+                if (stored == "CmbHorm")
+                    i = CmbHormDeIndiceGuardado(i);
+                c->SetListIndex(i);
+                break;
+            }
+            case Kind::TextBox: c->SetText(r.Text()); break;
+            case Kind::OptionButton: c->SetOptionValue(r.Boolean()); break;
+            case Kind::CheckBox: c->SetCheckValue(r.Integer()); break;
+            case Kind::UCPerfil: {
+                // The name is compared before anything is set.
+                std::string num = r.Text(), perfil = r.Text(), a = r.Text(), b = r.Text();
+                if (stored != c->Name())
+                    return FormLeeFile2(form, path);
+                c->Set("Num", num);
+                c->Set("Perfil", perfil);
+                if (IsUserSection(perfil)) {
+                    std::string area = r.Text(), ix = r.Text(), iy = r.Text();
+                    c->Set("Canto", a);
+                    c->Set("Ancho", b);
+                    c->Set("Area", area);
+                    c->Set("Ix", ix);
+                    c->Set("Iy", iy);
+                } else {
+                    c->Set("Tamano", a);
+                    c->Set("Ancho", b);
+                }
+                continue;
+            }
+            default:
+                for (const auto& p : StoredProperties(c->kind()))
+                    c->Set(p, r.Text());
+            }
+            // A name that differs is how a named file shows itself: hand over to its reader.
+            if (stored != c->Name())
+                return FormLeeFile2(form, path);
+        }
+        return ReadOutcome::Positional;
+    });
+}
+
+ReadOutcome FormLeeFile2(Form& form, const std::string& path)
+{
+    Declaraciones& d = form.decl();
+    return WithErrorWindow(d, "Subrut_FormLeeFile2", path, [&]() -> ReadOutcome {
+        const std::vector<std::string> lines = SplitLines(ReadRecordText(path));
+        const std::string first = lines.empty() ? std::string() : lines[0];
+        std::string versionText = Palabra(2, first, "\t");
+        d.VersionArchivo = static_cast<float>(ValComa(versionText));
+        if (Palabra(1, first, " ") != kProductWord || d.VersionArchivo > static_cast<float>(kProgramVersion)) {
+            d.ui.MsgBox(d.Msg(1355), mb::Exclamation, d.Msg(34));
+            return ReadOutcome::Refused;
+        }
+        std::string name, kindName;
+        int index = -1;
+        for (size_t ln = 1; ln < lines.size(); ++ln) {
+            const std::string& line = lines[ln];
+            std::string prop, value;
+            if (line.find('[') != std::string::npos) {
+                index = -1;
+                const std::string namePart = Palabra(1, line, "\t");
+                prop = Palabra(2, line, "\t");
+                value = Palabra(3, line, "\t");
+                const std::string k = Palabra(2, namePart, " ");
+                kindName = k.size() >= 2 ? k.substr(1, k.size() - 2) : std::string();
+                name = Palabra(1, namePart, " ");
+                size_t open = name.find('(');
+                if (open != std::string::npos) {
+                    std::string idx = name.substr(open + 1, name.size() - open - 2);
+                    index = static_cast<int>(ValComa(idx));
+                    name = name.substr(0, open);
+                }
+            } else {
+                prop = Palabra(1, line, "\t");
+                value = Palabra(2, line, "\t");
+            }
+            Kind kind;
+            if (!KindFromName(kindName, kind) || !IsStored(kind))
+                continue;
+            if (prop.empty() || prop[0] != '.' || !PropertyBelongs(kind, std::string_view(prop).substr(1)))
+                continue;
+            const std::string p = prop.substr(1);
+            Control* c = form.Find(name, index);
+            if (!c) {
+                std::string label = index >= 0 ? name + "(" + std::to_string(index) + ")" : name;
+                throw FieldError(730, static_cast<int>(ln) + 1,
+                                 "the record names a control that form " + form.Name() + " lacks: " + label);
+            }
+            try {
+                switch (kind) {
+                case Kind::TextBox: c->SetProperty("Text", value); break;
+                case Kind::ComboBox: c->SetListIndex(static_cast<int>(std::nearbyint(ValComa(value)))); break;
+                case Kind::CheckBox: c->SetCheckValue(static_cast<int>(ValComa(value))); break;
+                case Kind::OptionButton: c->SetProperty("Value", value); break;
+                default: c->Set(p, LTrim(value));
+                }
+            } catch (const PropertyError& e) {
+                throw FieldError(e.number(), static_cast<int>(ln) + 1, e.what());
+            }
+        }
+        return ReadOutcome::Named;
+    });
+}
+
+std::string RutaRegistro(Form& form, std::string_view title)
+{
+    return ConBarra(form.decl().CarpetaObra) + std::string(title) + ".~" + CodigoDeForm(form.decl(), form.Name());
+}
+
+std::string RutaResultados(Form& form, std::string_view title)
+{
+    return ConBarra(form.decl().CarpetaObra) + std::string(title) + ".l" + CodigoDeForm(form.decl(), form.Name());
+}
+
+namespace {
+// A file of the work by its exact path or, failing that, by its name in any case.
+std::optional<std::string> Existing(const std::string& path)
+{
+    return FindNoCase(CarpetaDe(path), ArchivoDe(path));
+}
+}  // namespace
+
+std::string GuardaForm(Form& form)
+{
+    Declaraciones& d = form.decl();
+    const std::string path = RutaRegistro(form, form.At("txtTitulo").Text());
+    // An existing record in another case is replaced under its own name.
+    const std::string target = Existing(path).value_or(path);
+    FormGuardaFile2(form, target);
+    if (d.DoEvents)
+        d.DoEvents();
+    if (Setting(d, "Preferencias", "CapturaPantallas") == "Si" && d.Captura)
+        d.Captura(form, target);
+    return target;
+}
+
+ReadOutcome LeeForm(Form& form, std::string& title, bool* found)
+{
+    auto path = Existing(RutaRegistro(form, title));
+    if (found)
+        *found = path.has_value();
+    if (!path) {
+        title.clear();
+        return ReadOutcome::Refused;
+    }
+    ReadOutcome outcome = FormLeeFile(form, *path);
+    CargaResultados(form, title);
+    return outcome;
+}
+
+void CargaResultados(Form& form, std::string_view title)
+{
+    Control* rtb = form.Find("RichTextBox1");
+    if (!rtb)
+        return;
+    auto path = Existing(RutaResultados(form, title));
+    // The rich text keeps the file's own bytes; the RTF reader decodes them.
+    rtb->SetText(path ? ReadFileBytes(*path) : std::string());
+}
+
+void BorraRegistro(Form& form, std::string_view title)
+{
+    if (title.empty())
+        return;
+    Declaraciones& d = form.decl();
+    auto results = Existing(RutaResultados(form, title));
+    if (!results) {
+        d.ui.MsgBox(d.Msg(172), mb::Critical, d.Msg(165));
+        Halt("the results file of \"" + std::string(title) + "\" is missing: " + RutaResultados(form, title));
+    }
+    const int answer = d.ui.MsgBox(d.Msg(173) + std::string(title) + "?", mb::Question | mb::YesNo, d.Msg(174));
+    if (answer != mb::Yes)
+        return;
+    if (!d.platform.recycleBin || !d.platform.recycleBin->APapelera(*results))
+        throw FileError(*results, "could not be moved to the recycle bin; nothing was deleted");
+    if (auto record = Existing(RutaRegistro(form, title)))
+        if (!d.platform.recycleBin->APapelera(*record))
+            throw FileError(*record, "could not be moved to the recycle bin");
+    if (Control* list = form.Find("List1"))
+        ListaArchivos("l" + CodigoDeForm(d, form.Name()), d.CarpetaObra, *list);
+}
+
+}  // namespace vardena

@@ -1,0 +1,332 @@
+#include "works/Subrut.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <vector>
+
+#include "works/Declaraciones.h"
+#include "works/FileIo.h"
+#include "works/Form.h"
+#include "works/VbFormat.h"
+
+namespace vardena {
+
+namespace {
+bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+}  // namespace
+
+double ValComa(std::string& text)
+{
+    size_t comma = text.find(',');
+    if (comma != std::string::npos)
+        text[comma] = '.';
+    // Gather the number's characters, skipping blanks as the run time's Val does.
+    std::string num;
+    size_t i = 0;
+    auto skip = [&] {
+        while (i < text.size() && IsBlank(text[i]))
+            ++i;
+    };
+    skip();
+    if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+        num += text[i++];
+    bool digits = false;
+    for (;; ) {
+        skip();
+        if (i < text.size() && IsDigit(text[i])) {
+            num += text[i++];
+            digits = true;
+        } else {
+            break;
+        }
+    }
+    skip();
+    if (i < text.size() && text[i] == '.') {
+        num += text[i++];
+        for (;;) {
+            skip();
+            if (i < text.size() && IsDigit(text[i])) {
+                num += text[i++];
+                digits = true;
+            } else {
+                break;
+            }
+        }
+    }
+    if (!digits)
+        return 0;
+    skip();
+    if (i < text.size() && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
+        size_t save = i;
+        std::string exp = "e";
+        ++i;
+        skip();
+        if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+            exp += text[i++];
+        bool expDigits = false;
+        for (;;) {
+            skip();
+            if (i < text.size() && IsDigit(text[i])) {
+                exp += text[i++];
+                expDigits = true;
+            } else {
+                break;
+            }
+        }
+        if (expDigits)
+            num += exp;
+        else
+            i = save;
+    }
+    double v = std::strtod(num.c_str(), nullptr);
+    if (!std::isfinite(v))
+        return 0;
+    return v;
+}
+
+double ValComaCopy(std::string_view text)
+{
+    std::string copy(text);
+    return ValComa(copy);
+}
+
+std::string Formato0(double v) { return FormatFixed(v, 0); }
+std::string Formato0_0(double v) { return FormatFixed(v, 1); }
+std::string Formato00(double v) { return FormatFixed(v, 2); }
+std::string Formato0(float v) { return FormatFixed(v, 0, 7); }
+std::string Formato0_0(float v) { return FormatFixed(v, 1, 7); }
+std::string Formato00(float v) { return FormatFixed(v, 2, 7); }
+
+std::string Formato00Punto(double v)
+{
+    std::string s = FormatFixed(v, 2, 7);
+    size_t comma = s.find(',');
+    if (comma != std::string::npos)
+        s[comma] = '.';
+    return s;
+}
+
+namespace {
+std::string Plain(std::string s)
+{
+    if (!s.empty() && s[0] == ' ')
+        s.erase(0, 1);
+    if (!s.empty() && s[0] == '.')
+        s.insert(s.begin(), '0');
+    return s;
+}
+}  // namespace
+
+std::string FormatoNum(float v) { return Plain(VbStr(v)); }
+std::string FormatoNum(double v) { return Plain(VbStr(v)); }
+
+double Redondea(double v, int decimals)
+{
+    double f = std::pow(10.0, decimals);
+    double s = v > 0 ? 1.0 : -1.0;
+    return std::trunc(v * f + s * 0.5) / f;
+}
+
+double Maximo3(double a, double b, double c) { return std::max(a, std::max(b, c)); }
+
+std::string Palabra(int n, std::string_view text, std::string_view sep)
+{
+    if (sep.empty())
+        sep = " ";
+    const char s = sep[0];
+    int count = 0;
+    size_t i = 0;
+    while (i < text.size()) {
+        while (i < text.size() && text[i] == s)
+            ++i;
+        if (i >= text.size())
+            break;
+        size_t start = i;
+        while (i < text.size() && text[i] != s)
+            ++i;
+        if (++count == n)
+            return std::string(text.substr(start, i - start));
+    }
+    return {};
+}
+
+std::string CambiaCar(std::string_view text, std::string_view a, std::string_view b)
+{
+    if (a.empty())
+        return {};
+    std::string out(text);
+    const char to = b.empty() ? '\0' : b[0];
+    std::string result;
+    for (char c : out) {
+        if (c == a[0]) {
+            if (to)
+                result += to;
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
+std::string ConBarra(std::string_view path)
+{
+    std::string p(path);
+    if (p.empty() || p.back() != kSep)
+        p += kSep;
+    return p;
+}
+
+std::string CarpetaDe(std::string_view path)
+{
+    size_t k = path.rfind(kSep);
+    if (k == std::string_view::npos || k == 0)
+        return {};
+    return std::string(path.substr(0, k));
+}
+
+std::string ArchivoDe(std::string_view path)
+{
+    size_t k = path.rfind(kSep);
+    if (k == std::string_view::npos || k == 0)
+        return {};
+    return std::string(path.substr(k + 1));
+}
+
+std::string AcortaRuta(std::string_view path, int n)
+{
+    const int len = static_cast<int>(path.size());
+    if (len <= n)
+        return std::string(path);
+    int start = len - (n - 6);  // 1-based position where the search begins
+    if (start < 1)
+        start = 1;
+    size_t k = path.find(kSep, static_cast<size_t>(start - 1));
+    std::string out(path.substr(0, 3));
+    out += "...";
+    if (k != std::string_view::npos)
+        out += path.substr(k);
+    return out;
+}
+
+void SeleccionaEnLista(Control& list, std::string_view text)
+{
+    for (int i = 0; i < list.ListCount(); ++i)
+        if (list.List(i) == text)
+            list.SetSelected(i, true);
+}
+
+void ListaArchivos(std::string_view ext, const std::string& folder, Control& list, std::string_view select)
+{
+    list.Clear();
+    const std::vector<std::string> names = FilesEndingWith(folder, "." + std::string(ext));
+    for (const auto& n : names)
+        list.AddItem(n.substr(0, n.size() - 4));
+    for (int i = 0; i < list.ListCount(); ++i) {
+        if (list.List(i) == select) {
+            list.SetSelected(i, true);
+            break;
+        }
+    }
+}
+
+std::string IndiceControl(const Control& c) { return std::to_string(c.Index()); }
+
+std::string NombrePlanta(const Declaraciones& d, int i)
+{
+    const int ns = d.NPlantasSobre;
+    if (i == 0)
+        return d.Msg(17);
+    if (i < ns)
+        return VbStr(static_cast<float>(ns - i)) + " " + d.Msg(1);
+    if (i == ns)
+        return d.Msg(2);
+    return VbStr(static_cast<float>(ns - i)) + " " + d.Msg(3);
+}
+
+void LlenaPlantas(Form& form, int first)
+{
+    Control* cmb = form.Find("CmbPlanta");
+    if (!cmb)
+        return;
+    Declaraciones& d = form.decl();
+    cmb->Clear();
+    for (int i = first; i <= d.NPlantasSobre + d.NPlantasBajo; ++i)
+        cmb->AddItem(NombrePlanta(d, i));
+}
+
+void Coeficientes(Declaraciones& d, int index, double& gammaC, double& gammaS)
+{
+    switch (index) {
+    case 0: gammaC = 1.6; gammaS = 1.8; return;
+    case 1: gammaC = 1.5; gammaS = 1.6; return;
+    case 2: gammaC = 1.35; gammaS = 1.5; return;
+    default: d.ui.MsgBox(d.Msg(164), mb::Critical, d.Msg(165));
+    }
+}
+
+std::optional<int16_t> FckIndice(Declaraciones& d, int index)
+{
+    if (index < 0 || index > 8) {
+        d.ui.MsgBox(d.Msg(166), mb::Critical, d.Msg(165));
+        return std::nullopt;
+    }
+    return static_cast<int16_t>(1000 + 500 * index);
+}
+
+std::optional<int32_t> FykIndice(Declaraciones& d, int index)
+{
+    if (index == 0)
+        return 41000;
+    if (index == 1)
+        return 51000;
+    d.ui.MsgBox(d.Msg(167), mb::Critical, d.Msg(165));
+    return std::nullopt;
+}
+
+float FyAcero(int index)
+{
+    static const float values[] = {24000, 26000, 36000, 24000, 28000, 36000, 45500};
+    if (index < 0 || index > 6)
+        Halt("structural steel index " + std::to_string(index) + " is outside the table");
+    return values[index];
+}
+
+std::string NombreAcero(int index)
+{
+    static const char* names[] = {"A37", "A42", "A52", "S 235", "S 275", "S 355", "S 450"};
+    if (index < 0 || index > 6)
+        Halt("structural steel index " + std::to_string(index) + " is outside the table");
+    return names[index];
+}
+
+int IndiceMaterial(int listIndex, int generalIndex) { return listIndex == 0 ? generalIndex : listIndex - 1; }
+
+namespace {
+int16_t CutToInteger(std::string_view text)
+{
+    double v = std::nearbyint(ValComaCopy(text));
+    if (v > 32767 || v < -32768)
+        return 0;
+    return static_cast<int16_t>(v);
+}
+}  // namespace
+
+double AreaBarras(const Control& c, float factor)
+{
+    const double r = CutToInteger(c.Get("Diametro")) / 2000.0;
+    return CutToInteger(c.Get("NumBarras")) * kPi * r * r * factor;
+}
+
+double AreaSeparacion(const Control& c, float factor)
+{
+    const int16_t sep = CutToInteger(c.Get("Separacion"));
+    if (sep == 0)
+        return 0;
+    const double r = CutToInteger(c.Get("Diametro")) / 2000.0;
+    return 100.0 / sep * kPi * r * r * factor;
+}
+
+}  // namespace vardena

@@ -1,0 +1,93 @@
+#pragma once
+// The shared routines of every form: number reading and formatting, text cutting, paths,
+// list filling and the material tables.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vardena {
+
+struct Declaraciones;
+class Control;
+class Form;
+
+// ---- Numbers and number text ----
+
+// The one number parser: replaces the first "," of `text` by "." (in the caller's text) and
+// reads the longest leading number. Blanks are skipped, "." is always the decimal point, an
+// exponent is taken, and a text with no number gives 0.
+double ValComa(std::string& text);
+// The same on a copy, for callers that must not see their text changed.
+double ValComaCopy(std::string_view text);
+
+std::string Formato0(double v);
+std::string Formato0_0(double v);
+std::string Formato00(double v);
+// Single-precision numbers print from their 7-digit decimal value, as the run time did.
+std::string Formato0(float v);
+std::string Formato0_0(float v);
+std::string Formato00(float v);
+// "0.00" with "." as decimal mark: the format of version numbers.
+std::string Formato00Punto(double v);
+// The plain text of a number (the sign blank cut off, "0" before a leading ".").
+std::string FormatoNum(float v);
+std::string FormatoNum(double v);
+
+// Rounds halves away from zero to `decimals` places.
+double Redondea(double v, int decimals = 0);
+double Maximo3(double a, double b, double c);
+
+// ---- Text and paths ----
+
+// The n-th token (from 1) of `text`; runs of the separator never make an empty token.
+std::string Palabra(int n, std::string_view text, std::string_view sep = " ");
+// Replaces every occurrence of the first character of `a` by the first character of `b`.
+std::string CambiaCar(std::string_view text, std::string_view a, std::string_view b);
+
+// The folder separator of this platform; the program's paths are built with it.
+inline constexpr char kSep = '/';
+std::string ConBarra(std::string_view path);
+std::string CarpetaDe(std::string_view path);
+std::string ArchivoDe(std::string_view path);
+std::string AcortaRuta(std::string_view path, int n);
+
+// ---- Lists and forms ----
+
+void SeleccionaEnLista(Control& list, std::string_view text);
+// Fills `list` with the names of the files folder/*.ext (ext of three characters, compared
+// without regard to case), each less its last 4 characters, in name order; then selects the
+// first row equal to `select`.
+void ListaArchivos(std::string_view ext, const std::string& folder, Control& list, std::string_view select = {});
+// The control's index in its array as text; "-1" for a control that is no member of one.
+std::string IndiceControl(const Control& c);
+// Fills the form's CmbPlanta with a row per level from `first` to NPlantasSobre + NPlantasBajo.
+void LlenaPlantas(Form& form, int first);
+// The text of one row of a level list, as LlenaPlantas writes it.
+std::string NombrePlanta(const Declaraciones& d, int i);
+
+// ---- Material tables ----
+
+// Control level index to the partial factors of concrete and steel; a bad index shows
+// message 164 and leaves the out values as they were.
+void Coeficientes(Declaraciones& d, int index, double& gammaC, double& gammaS);
+// Concrete characteristic strength, t/m2; a bad index shows message 166 and gives nothing.
+std::optional<int16_t> FckIndice(Declaraciones& d, int index);
+// Reinforcing steel yield strength, t/m2; a bad index shows message 167 and gives nothing.
+std::optional<int32_t> FykIndice(Declaraciones& d, int index);
+// Structural steel: a bad index ends the program.
+float FyAcero(int index);
+std::string NombreAcero(int index);
+
+// The material rule of element lists that begin with "Idem gral.": row 0 takes the index
+// of the general data, any other row i stands for i - 1.
+int IndiceMaterial(int listIndex, int generalIndex);
+
+// ---- Reinforcement quantities ----
+
+inline constexpr double kPi = 3.14159265358979;
+double AreaBarras(const Control& c, float factor);
+double AreaSeparacion(const Control& c, float factor);
+
+}  // namespace vardena

@@ -1,0 +1,84 @@
+#include "support/TestSupport.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <random>
+#include <sys/wait.h>
+
+#include "works/Catalogo.h"
+#include "works/Codepage.h"
+#include "works/FileIo.h"
+
+namespace vardena::test {
+
+ScratchDir::ScratchDir()
+{
+    static std::mt19937_64 rng{std::random_device{}()};
+    auto base = std::filesystem::temp_directory_path() / ("vardena-test-" + std::to_string(rng()));
+    std::filesystem::create_directories(base);
+    path_ = base.string();
+}
+
+ScratchDir::~ScratchDir()
+{
+    std::error_code ec;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, std::filesystem::perm_options::add, ec);
+    std::filesystem::remove_all(path_, ec);
+}
+
+TestApp::TestApp() : decl(ui, platform)
+{
+    platform.settings = std::make_unique<MemorySettings>();
+    decl.GeneralDataDefaults();
+    LlenaCatalogo(decl);
+}
+
+void WriteDiskText(const std::string& path, const std::string& text) { WriteBytes(path, ToDiskText(text)); }
+
+std::string ReadBytes(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+}
+
+void WriteBytes(const std::string& path, const std::string& bytes)
+{
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out << bytes;
+}
+
+std::string ReadDiskText(const std::string& path)
+{
+    std::string s = Cp1252ToUtf8(ReadBytes(path));
+    std::string out;
+    for (size_t i = 0; i < s.size(); ++i) {
+        if (s[i] == '\r' && i + 1 < s.size() && s[i + 1] == '\n')
+            continue;
+        out += s[i];
+    }
+    return out;
+}
+
+namespace {
+std::string Slurp(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+}
+}  // namespace
+
+int RunCli(const std::string& args, std::string* out, std::string* err)
+{
+    ScratchDir tmp;
+    const std::string cmd = std::string("'") + VARDENA_CLI + "' " + args + " >'" + tmp.path() + "/out' 2>'" +
+                            tmp.path() + "/err'";
+    int status = std::system(cmd.c_str());
+    if (out)
+        *out = Slurp(tmp.path() + "/out");
+    if (err)
+        *err = Slurp(tmp.path() + "/err");
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+}  // namespace vardena::test

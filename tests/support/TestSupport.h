@@ -1,0 +1,45 @@
+#pragma once
+// Helpers shared by the tests: scratch folders, files in the formats of version 3, and a
+// program state with recorded message boxes and settings kept in memory.
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "shell/Platform.h"
+#include "works/Declaraciones.h"
+#include "works/Ui.h"
+
+namespace vardena::test {
+
+// A fresh folder under the system's temporary folder, removed with the object.
+class ScratchDir {
+public:
+    ScratchDir();
+    ~ScratchDir();
+    const std::string& path() const { return path_; }
+    std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+private:
+    std::string path_;
+};
+
+// A program state for tests: RecordingUi, MemorySettings, the catalogue filled.
+struct TestApp {
+    TestApp();
+    RecordingUi ui;
+    Platform platform;
+    Declaraciones decl;
+};
+
+// Writes `text` (UTF-8, "\n" line ends) as Windows-1252 with CR LF.
+void WriteDiskText(const std::string& path, const std::string& text);
+// Reads a file and returns it as UTF-8 with "\n" line ends.
+std::string ReadDiskText(const std::string& path);
+std::string ReadBytes(const std::string& path);
+void WriteBytes(const std::string& path, const std::string& bytes);
+
+// Runs the command-line tool; returns its exit code and fills the outputs.
+int RunCli(const std::string& args, std::string* out = nullptr, std::string* err = nullptr);
+
+}  // namespace vardena::test
