@@ -197,6 +197,11 @@ public:
     std::vector<Control*> Controls() const;
     std::vector<Control*> StoredControls() const;
 
+    // The life cycle: Form_Load runs when the form is loaded (shown or hidden), Form_Unload
+    // when it is closed. Forms override them.
+    virtual void Form_Load() {}
+    virtual void Form_Unload() {}
+
     // Restores every control to its design-time state (text boxes to their design text,
     // lists to no selection). Used by forms that are loaded more than once.
     void ResetToDesign();

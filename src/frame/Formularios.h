@@ -1,0 +1,27 @@
+#pragma once
+// Every form of the program by name: the element forms, the actions form and the general data.
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vardena {
+
+class Form;
+struct Declaraciones;
+
+struct FormInfo {
+    std::string name;     // "frmZapCorr"
+    std::string code;     // catalogue code, "" for forms without a row
+    std::string caption;  // the window's title
+    int storedControls = 0;
+};
+
+// Creates the form by name (case as written, e.g. "frmZapCorr", "DatosGen") and runs its
+// Form_Load, hidden. nullptr for an unknown name.
+std::unique_ptr<Form> CargaForm(Declaraciones& d, std::string_view name);
+// All forms that CargaForm knows.
+std::vector<FormInfo> ListaFormularios(Declaraciones& d);
+
+}  // namespace vardena
