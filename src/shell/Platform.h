@@ -2,12 +2,15 @@
 // The platform services the program uses, each behind a small interface, with the operation
 // names the program has always used. Linux implementations live in shell/linux/.
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vardena {
+
+class Form;
 
 // Settings: texts by (application, section, key). The program uses application "Vardena 3".
 class SettingsStore {
@@ -73,6 +76,7 @@ struct DriveFact {
     std::string label;
     unsigned long long freeBytes = 0;
     unsigned long long totalBytes = 0;
+    std::string serial;  // the volume's serial number (on Linux its file system UUID)
 };
 struct SystemFacts {
     std::string systemName;
@@ -81,11 +85,23 @@ struct SystemFacts {
     unsigned long long memoryTotal = 0;
     unsigned long long memoryFree = 0;
     std::vector<DriveFact> drives;
+    std::string build;        // the system's build (kernel release)
+    std::string servicePack;  // the text beside the build (kernel version string)
+    int cpuCount = 0;
+    unsigned long long virtualTotal = 0;  // memory plus swap
+    unsigned long long virtualFree = 0;
 };
 class SystemInfo {
 public:
     virtual ~SystemInfo() = default;
     virtual SystemFacts Facts() = 0;
+};
+
+// Window services that only the desktop program has: it fills the hooks; without a screen they
+// stay empty and the operations (PonEncima, InitCommonControlsEx) do nothing and succeed.
+struct GuiHooks {
+    std::function<bool(Form& window, bool on)> ponEncima;
+    std::function<bool()> initCommonControls;
 };
 
 // The services of a running program, owned by the application.
@@ -94,6 +110,7 @@ struct Platform {
     std::unique_ptr<RecycleBin> recycleBin;
     std::unique_ptr<ShellOpen> shell;
     std::unique_ptr<SystemInfo> system;
+    GuiHooks gui;
 };
 
 }  // namespace vardena

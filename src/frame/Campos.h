@@ -1,0 +1,82 @@
+#pragma once
+// The stored fields of every element form, as data: each form's controls in the order in which
+// the form defines them, which is the order of its record. A control array whose members are
+// spread over the form appears once for every stretch; its members share the name and are
+// told apart by index. Alongside, how each form goes through its life cycle (reads twice, sets
+// the loading guard, what kind of check call it makes, whether it asks before replacing).
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "works/Form.h"
+
+namespace vardena {
+
+// One entry of a field list: a control, or a stretch of members of a control array.
+struct CampoDef {
+    std::string_view nombre;
+    // Indices of the members in the order the form defines them; empty for a plain control.
+    std::vector<int> indices;
+    // T text box, C combo box, O option button, K check box, N UCNumDiam, S UCNumDiamSep,
+    // Z UCZapatas, M UCMallazo, P UCPerfil.
+    char tipo;
+    // Design-time texts of text boxes: one for all members when only one stands, else one per
+    // member in order; members past the last text are empty.
+    std::vector<std::string_view> textos = {};
+};
+
+struct TablaForm {
+    std::string_view nombre;  // "frmZapCorr"
+    std::string_view codigo;  // catalogue code; "" for forms without a row
+    std::vector<CampoDef> campos;
+};
+
+// The kind of a field letter; throws std::invalid_argument for a letter that is none.
+Kind TipoDeLetra(char letra);
+char LetraDeTipo(Kind k);
+
+// The design text of member `miembro` (0-based position within the entry).
+std::string_view TextoDeDiseno(const CampoDef& campo, size_t miembro);
+// Number of stored controls of a table, each array member counted on its own.
+int NumeroControles(const TablaForm& tabla);
+
+// The tables by family. Each family lives in its own source file.
+const std::vector<TablaForm>& TablasHormigon();
+const std::vector<TablaForm>& TablasAceroMadera();
+const std::vector<TablaForm>& TablasFabricaTerreno();
+// frmAccio, frmDatosProy and the forms with a free-text result.
+const std::vector<TablaForm>& TablasDatosYLibres();
+
+// All tables: the catalogue's forms in catalogue order, then the forms without a row.
+const std::vector<TablaForm>& TablasCampos();
+// The table of a form by name (case as written); nullptr when there is none.
+const TablaForm* TablaCampos(std::string_view form);
+
+// How CmdCalcular_Click reaches the check step of the element.
+enum class PasoComprobacion {
+    Ninguno,        // no check call: the save follows
+    SinArgumentos,  // one call with no arguments
+    Bandera,        // one call with one flag argument, set to true
+    OchoYSiete,     // two calls, of eight and of seven arguments
+};
+
+// The life-cycle row of a form.
+struct CicloForm {
+    std::string_view nombre;
+    bool leeDosVeces;   // List1_Click runs LeeForm twice
+    bool guarda;        // List1_Click sets Cargando around the reading
+    PasoComprobacion paso;
+    bool pregunta;      // CmdCalcular_Click asks before replacing an existing results file
+    // A form with one fixed record (frmAccio): its load reads this title and it has no List1
+    // walk. Empty for the element forms.
+    std::string_view tituloFijo = {};
+};
+
+// The row of a form; forms without one get the row of a plain element form (reads once,
+// guarded, a check with no arguments, no question).
+const CicloForm& CicloDe(std::string_view form);
+const std::vector<CicloForm>& Ciclos();
+
+}  // namespace vardena
