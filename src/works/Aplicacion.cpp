@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <unistd.h>
 
+#include "shell/LngPack.h"
+#include "shell/linux/ServiciosLinux.h"
 #include "works/Catalogo.h"
 
 namespace vardena {
@@ -30,8 +32,10 @@ Aplicacion::Aplicacion(Ui& ui, std::unique_ptr<SettingsStore> settings, std::str
     : decl(ui, platform)
 {
     platform.settings = std::move(settings);
+    InstalaServiciosLinux(platform);
     decl.DirPrograma = programDir.empty() ? ResourceDir() : std::move(programDir);
     decl.GeneralDataDefaults();
+    CargaIdioma(decl);
     LlenaCatalogo(decl);
 }
 

@@ -59,6 +59,10 @@ struct Declaraciones {
     float VersionArchivo = 0;
     int16_t Cargando = kFalse;
     std::string ErrorOrigen;
+    // Set by the main window before it opens the general data of a work it has just created.
+    int16_t ObraNueva = kFalse;
+    // How the last record read was taken: 0 none, 1 positional, 2 named, 3 refused.
+    int16_t UltimaLectura = 0;
     // Set by the check step of every element (a no-op here).
     int16_t ResultadoCalculo = 0;
 

@@ -233,6 +233,7 @@ ReadOutcome FormLeeFile(Form& form, const std::string& path)
             if (stored != c->Name())
                 return FormLeeFile2(form, path);
         }
+        d.UltimaLectura = 1;
         return ReadOutcome::Positional;
     });
 }
@@ -246,6 +247,7 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
         std::string versionText = Palabra(2, first, "\t");
         d.VersionArchivo = static_cast<float>(ValComa(versionText));
         if (Palabra(1, first, " ") != kProductWord || d.VersionArchivo > static_cast<float>(kProgramVersion)) {
+            d.UltimaLectura = 3;
             d.ui.MsgBox(d.Msg(1355), mb::Exclamation, d.Msg(34));
             return ReadOutcome::Refused;
         }
@@ -296,6 +298,7 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
                 throw FieldError(e.number(), static_cast<int>(ln) + 1, e.what());
             }
         }
+        d.UltimaLectura = 2;
         return ReadOutcome::Named;
     });
 }

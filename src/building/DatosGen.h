@@ -1,0 +1,77 @@
+#pragma once
+// The building's general data as a form: levels and their loads, the standard enclosure wall,
+// the load steps, and the materials of the work. What it holds is the work's DATOS.~CE.
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "works/Form.h"
+
+namespace vardena {
+
+struct Declaraciones;
+
+// The long-term factor of a load step at day `day`, as stored in the general data.
+float FactorDiferido(float day);
+
+// Where the rows of the building section stand, in twips, for the window to draw.
+struct SeccionLayout {
+    int floors = 0;     // n
+    int basements = 0;  // b
+    int pitch = 0;      // row pitch
+    int left = 0, right = 0;
+    int loadCentre = 0;  // centre line of the row of load fields
+    struct Row {
+        int level;  // 0 roof, 1..n floors, n+1..n+b basements
+        int top;
+        bool basement;
+        std::string label;
+    };
+    std::vector<Row> rows;
+    bool asignaSotanos = false;  // AsignaC(0) shown
+    bool asignaPlantas = false;  // AsignaC(1) shown
+    bool groundVisible = false;  // cmbGeom, floor-count labels, TxTens and the covering shape
+};
+
+class DatosGen : public Form {
+public:
+    explicit DatosGen(Declaraciones& d);
+
+    void Form_Load() override;
+    void Form_Unload() override;
+
+    void pasaMatPan();
+    void pasaPanMat();
+    void Seccion();
+    void Aceptar_Click();
+    void AsignaC_Click(int index);
+    void cmdCatUso();
+    void cmdAyuda();
+    // Writes the general-data report "Datos.lCE" in the work folder.
+    void ListaRtf();
+    // Closing by the window control: refused while the work is new (message 134). Returns true
+    // when the form may close.
+    bool QueryUnload();
+
+    const SeccionLayout& Layout() const { return layout_; }
+
+    // Design constants of the section picture.
+    static constexpr int kPictureHeight = 7800;
+    static constexpr int kMasterLeft = 600;
+    static constexpr int kMasterWidth = 3600;
+
+private:
+    void Build();
+    void EnsureRows(int floors, int basements);
+    void MaterialGroup(const char* check, int label, std::vector<const char*> controls);
+    double PanelFactor() const;
+    double StressFactor() const;
+
+    SeccionLayout layout_;
+};
+
+std::unique_ptr<Form> CreaDatosGen(Declaraciones& d);
+
+}  // namespace vardena

@@ -1,0 +1,349 @@
+#include "works/Conversion.h"
+
+#include <filesystem>
+#include <map>
+
+#include "building/DatosGen.h"
+#include "frame/Formularios.h"
+#include "works/Catalogo.h"
+#include "works/Codepage.h"
+#include "works/DatosFile.h"
+#include "works/Declaraciones.h"
+#include "works/FileIo.h"
+#include "works/Form.h"
+#include "works/Registros.h"
+#include "works/Subrut.h"
+
+namespace vardena {
+namespace {
+
+struct Dispatch {
+    const char* code;
+    const char* form;
+    bool records;  // the whole List1, once per run; else once per file
+    bool list4;    // entered in List4 when it finishes
+};
+
+// Codes LS, LZ, ME and DP are in the catalogue but deliberately not here: their files stay
+// as version 3 left them.
+constexpr Dispatch kDispatch[] = {
+    {"CE", "DatosGen", false, true},       {"CK", "frmAccio", false, true},      {"HJ", "frmVigHorm", true, true},
+    {"HK", "frmVigRegHorm", true, true},   {"HP", "frmPilHorm", true, true},     {"HU", "frmForjUnid", true, true},
+    {"HS", "frmForjSitu", true, true},     {"HR", "frmForjRet", true, true},     {"HQ", "frmForMaci", true, true},
+    {"HV", "frmAbaco", true, true},        {"HW", "frmMensCorta", true, true},   {"HY", "frmVigPared", true, false},
+    {"HZ", "frmEscHorm", true, true},      {"LJ", "frmVigMet", true, true},      {"LP", "frmPilMet", true, true},
+    {"LQ", "frmForjAcer", true, true},     {"MB", "frmVigMade", true, true},     {"MC", "frmPilMade", true, true},
+    {"MD", "frmForMade", true, true},      {"MF", "frmMuros", true, true},       {"MH", "frmMCerr", true, true},
+    {"MI", "frmMDint", true, true},        {"CS", "frmSuelo", true, true},       {"ZA", "frmZap", true, true},
+    {"ZB", "frmZapComb", true, true},      {"ZC", "frmZapCorr", true, true},     {"ZI", "frmPilotes", true, true},
+    {"ZM", "frmMuroH", true, true},        {"ZO", "frmMuroCont", true, true},    {"ZR", "frmMuroAnclado", true, false},
+    {"ZT", "frmTalud", true, true},
+};
+
+const Dispatch* Find(const std::string& code)
+{
+    for (const auto& d : kDispatch)
+        if (code == d.code)
+            return &d;
+    return nullptr;
+}
+
+using Status = ConversionEntry::Status;
+
+// The names of the folder, in the order the file system of version 3 listed them.
+std::vector<std::string> FolderNames(const std::string& folder)
+{
+    std::vector<std::string> names;
+    std::error_code ec;
+    std::filesystem::directory_iterator it(folder, ec), end;
+    for (; !ec && it != end; it.increment(ec))
+        names.push_back(it->path().filename().string());
+    SortNoCase(names);
+    return names;
+}
+
+// "positional", "named" or "" (no file) from a record's first line.
+std::string FormatOf(const std::optional<std::string>& path)
+{
+    if (!path)
+        return {};
+    try {
+        std::string head = ReadFileBytes(*path).substr(0, 64);
+        return head.rfind("Vardena ", 0) == 0 ? "named" : "positional";
+    } catch (const FileError&) {
+        return "unreadable";
+    }
+}
+
+std::optional<std::string> ExistingNoCase(const std::string& path) { return FindNoCase(CarpetaDe(path), ArchivoDe(path)); }
+
+struct RunState {
+    Declaraciones& d;
+    ConversionLog& log;
+    const ConversionOptions& options;
+};
+
+// Runs `step`; an error goes to the error window under `origin`: "Reintentar" runs the step
+// again, any other answer ends the run.
+template <typename Fn>
+void Step(RunState& s, const char* origin, Fn step)
+{
+    for (;;) {
+        std::string problem;
+        int number = 0;
+        try {
+            step();
+            return;
+        } catch (const FileError& e) {
+            problem = e.what();
+            number = 75;
+        } catch (const PropertyError& e) {
+            problem = e.what();
+            number = e.number();
+        }
+        s.d.ErrorOrigen = origin;
+        if (!s.d.ui.ErrorFrm(origin, number, problem))
+            throw ProgramHalt(problem);
+    }
+}
+
+void RunRecords(RunState& s, const Dispatch& dispatch)
+{
+    Declaraciones& d = s.d;
+    std::unique_ptr<Form> form;
+    Step(s, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
+    if (!form)
+        throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
+    Control& list1 = form->At("List1");
+    const int count = list1.ListCount();
+    for (int j = 0; j < count; ++j) {
+        const std::string title = list1.List(j);
+        const std::string recordPath = RutaRegistro(*form, title);
+        const auto existing = ExistingNoCase(recordPath);
+        const std::string before = FormatOf(existing);
+        d.UltimaLectura = 0;
+        Step(s, "List1_Click", [&] { list1.SetListIndex(j); });
+        if (d.DoEvents)
+            d.DoEvents();
+        std::string written;
+        Step(s, "CmdCalcular_Click", [&] {
+            written = RutaRegistro(*form, form->At("txtTitulo").Text());
+            form->At("CmdCalcular").Click();
+        });
+        ConversionEntry e{Status::Converted, existing.value_or(recordPath), dispatch.form, written, {}};
+        if (!existing) {
+            e.status = Status::NoRecord;
+            e.note = "a results file without a record: the form's current state was saved under \"" +
+                     form->At("txtTitulo").Text() + "\"";
+        } else if (d.UltimaLectura == 3) {
+            e.status = Status::Refused;
+            e.note = "no reader accepted the record (message 1355): the form's previous state was saved under its "
+                     "title, as version 3 did; the old file is not repaired";
+        } else if (d.UltimaLectura == 2 || before == "named") {
+            e.status = Status::Rewritten;
+            e.note = "already in the named format: read and written again";
+        } else {
+            e.note = "positional record written in the named format of version 3.50";
+        }
+        if (existing && ExistingNoCase(written) != existing && e.status != Status::Refused)
+            e.note += "; the record holds another title, so it was written as " + ArchivoDe(written) +
+                      " and the old file stays";
+        if (dispatch.form == std::string("frmSuelo"))
+            e.note += "; the soil was not recalculated";
+        s.log.entries.push_back(e);
+        ++s.log.records;
+        if (s.options.progress)
+            s.options.progress(s.log.records, title + ".~" + dispatch.code);
+    }
+    form->Form_Unload();
+}
+
+void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
+{
+    Declaraciones& d = s.d;
+    const std::string path = ConBarra(d.CarpetaObra) + name;
+    if (std::string(dispatch.code) == "CE") {
+        Step(s, "Aceptar_Click", [&] {
+            DatosGen form(d);
+            form.Form_Load();
+            form.Aceptar_Click();
+        });
+        s.log.entries.push_back({Status::GeneralData, path, "DatosGen", ConBarra(d.CarpetaObra) + "DATOS.~CE",
+                                 "general data written as version 3.5 (once per .~CE file met)"});
+        return;
+    }
+    std::unique_ptr<Form> form;
+    Step(s, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
+    if (!form)
+        throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
+    std::string written;
+    Step(s, "CmdCalcular_Click", [&] {
+        written = RutaRegistro(*form, form->At("txtTitulo").Text());
+        form->At("CmdCalcular").Click();
+    });
+    form->Form_Unload();
+    s.log.entries.push_back({Status::Saved, path, dispatch.form, written,
+                             "the actions record was saved in the named format; the actions were not recalculated"});
+    ++s.log.records;
+}
+
+void DryRun(RunState& s, const std::vector<std::string>& names)
+{
+    Declaraciones& d = s.d;
+    std::map<std::string, bool> done;
+    for (const auto& name : names) {
+        if (name.size() < 3 || name[name.size() - 3] != '~')
+            continue;
+        const std::string code = name.substr(name.size() - 2);
+        const Dispatch* dispatch = Find(code);
+        if (!dispatch || (dispatch->records && done[code]))
+            continue;
+        if (!dispatch->records) {
+            s.log.entries.push_back({std::string(dispatch->code) == "CE" ? Status::GeneralData : Status::Saved,
+                                     ConBarra(d.CarpetaObra) + name, dispatch->form, {},
+                                     std::string(dispatch->code) == "CE" ? "would write DATOS.~CE as version 3.5"
+                                                                          : "would save the actions record"});
+            continue;
+        }
+        done[code] = true;
+        for (const auto& results : FilesEndingWith(d.CarpetaObra, ".l" + code)) {
+            const std::string title = results.substr(0, results.size() - 4);
+            const std::string record = ConBarra(d.CarpetaObra) + title + ".~" + code;
+            const auto existing = ExistingNoCase(record);
+            const std::string format = FormatOf(existing);
+            ConversionEntry e{Status::Converted, existing.value_or(record), dispatch->form, {}, {}};
+            if (!existing) {
+                e.status = Status::NoRecord;
+                e.note = "a results file without a record: the form's state would be saved under its current title";
+            } else if (format == "named") {
+                e.status = Status::Rewritten;
+                e.note = "already in the named format: would be read and written again";
+            } else {
+                e.note = "would be written in the named format of version 3.50";
+            }
+            s.log.entries.push_back(e);
+            ++s.log.records;
+        }
+    }
+}
+
+// Files of the work that the run leaves as they are, with the reason.
+void LeftAlone(RunState& s, const std::vector<std::string>& names)
+{
+    const std::string folder = s.d.CarpetaObra;
+    for (const auto& name : names) {
+        if (name.size() < 3 || name[name.size() - 3] != '~')
+            continue;
+        const std::string code = name.substr(name.size() - 2);
+        const Dispatch* dispatch = Find(code);
+        std::string why;
+        if (!dispatch) {
+            bool inCatalogue = false;
+            for (const auto& row : Catalogo())
+                inCatalogue = inCatalogue || code == row.code;
+            why = inCatalogue ? "code " + code + " is not converted by this program; the file stays as version 3 left it"
+                              : "code " + code + " is unknown; the file stays as it is";
+        } else if (dispatch->records) {
+            const std::string title = name.substr(0, name.size() - 4);
+            if (!FindNoCase(folder, title + ".l" + code))
+                why = "saved but never checked (no results file): it is not listed, so it stays in its old format";
+        }
+        if (!why.empty())
+            s.log.entries.push_back({Status::LeftAlone, ConBarra(folder) + name, {}, {}, why});
+    }
+}
+
+}  // namespace
+
+const char* StatusName(ConversionEntry::Status s)
+{
+    switch (s) {
+    case Status::Converted: return "converted";
+    case Status::Rewritten: return "rewritten";
+    case Status::Refused: return "refused";
+    case Status::NoRecord: return "no-record";
+    case Status::LeftAlone: return "left-alone";
+    case Status::GeneralData: return "general-data";
+    case Status::Saved: return "saved";
+    case Status::Failed: return "failed";
+    }
+    return "?";
+}
+
+std::string FormDeCodigo(const std::string& code)
+{
+    const Dispatch* d = Find(code);
+    return d ? d->form : "";
+}
+
+bool SeRecorreEntero(const std::string& code)
+{
+    const Dispatch* d = Find(code);
+    return d && d->records;
+}
+
+ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const ConversionOptions& options)
+{
+    ConversionLog log;
+    log.work = d.CarpetaObra;
+    RunState s{d, log, options};
+    const std::vector<std::string> names = FolderNames(d.CarpetaObra);
+    list2.insert(list2.end(), names.begin(), names.end());
+    LeftAlone(s, names);
+    if (options.dryRun) {
+        DryRun(s, list2);
+        log.completed = true;
+        return log;
+    }
+    std::map<std::string, bool> flags;
+    const size_t last = list2.size();
+    try {
+        for (size_t row = 0; row < last; ++row) {
+            const std::string name = list2[row];
+            if (name.size() < 3 || name[name.size() - 3] != '~')
+                continue;
+            const std::string code = name.substr(name.size() - 2);
+            const Dispatch* dispatch = Find(code);
+            if (!dispatch)
+                continue;
+            if (dispatch->records) {
+                if (flags[code])
+                    continue;
+                RunRecords(s, *dispatch);
+                flags[code] = true;
+            } else {
+                RunOnce(s, *dispatch, name);
+            }
+            if (dispatch->list4)
+                log.list4.push_back(dispatch->form);
+        }
+    } catch (const ProgramHalt& e) {
+        log.error = e.what();
+        log.entries.push_back({Status::Failed, {}, {}, {}, std::string("the run ended here: ") + e.what()});
+        return log;
+    }
+    // The main window reads the general data again: the version now reads 3.50.
+    std::string unused;
+    DatosFile(d, "DATOS.~CE", "L", unused);
+    d.ui.MsgBox(d.Msg(1307), mb::Information, "");
+    log.completed = true;
+    return log;
+}
+
+std::string CopiaDeSeguridad(const std::string& workFolder, const std::string& destFolder)
+{
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    const fs::path src = fs::path(workFolder).lexically_normal();
+    const std::string name = src.filename().empty() ? src.parent_path().filename().string() : src.filename().string();
+    const fs::path dest = fs::path(destFolder) / name;
+    if (fs::exists(dest, ec))
+        throw FileError(dest.string(), "already exists; the backup was not made and nothing was converted");
+    fs::create_directories(destFolder, ec);
+    fs::copy(src, dest, fs::copy_options::recursive, ec);
+    if (ec)
+        throw FileError(dest.string(), "the backup copy failed: " + ec.message());
+    return dest.string();
+}
+
+}  // namespace vardena
