@@ -1,10 +1,97 @@
 #include "frame/Formularios.h"
 
+#include <functional>
+
+#include "building/DatosGen.h"
+#include "frame/Campos.h"
+#include "frame/ElementForm.h"
+#include "works/Catalogo.h"
+#include "works/FileIo.h"
 #include "works/Form.h"
 
 namespace vardena {
+namespace {
 
-std::unique_ptr<Form> CargaForm(Declaraciones&, std::string_view) { return nullptr; }
-std::vector<FormInfo> ListaFormularios(Declaraciones&) { return {}; }
+using Fabrica = std::function<std::unique_ptr<Form>(Declaraciones&)>;
+
+struct FormPropio {
+    std::string_view nombre;
+    Fabrica crea;
+};
+
+// Forms with a class of their own. Every other form of the field tables is a plain
+// ElementForm built from its table; an element that gets its own change logic and calculation
+// adds its subclass here.
+const std::vector<FormPropio>& FormsPropios()
+{
+    static const std::vector<FormPropio> propios = {
+        {"DatosGen", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<DatosGen>(d); }},
+    };
+    return propios;
+}
+
+// The catalogue code of a form, "" for a form without a row.
+std::string CodigoCatalogo(std::string_view name)
+{
+    for (const auto& fila : Catalogo())
+        if (SameNameNoCase(fila.form, name))
+            return fila.code;
+    return {};
+}
+
+// The names CreaForm knows: the catalogue's order first, then the forms without a row.
+std::vector<std::string> Nombres()
+{
+    std::vector<std::string> out;
+    auto add = [&](std::string_view n) {
+        for (const auto& o : out)
+            if (o == n)
+                return;
+        out.emplace_back(n);
+    };
+    for (const auto& fila : Catalogo()) {
+        for (const auto& p : FormsPropios())
+            if (SameNameNoCase(p.nombre, fila.form))
+                add(p.nombre);
+        for (const auto& t : TablasCampos())
+            if (SameNameNoCase(t.nombre, fila.form))
+                add(t.nombre);
+    }
+    for (const auto& p : FormsPropios())
+        add(p.nombre);
+    for (const auto& t : TablasCampos())
+        add(t.nombre);
+    return out;
+}
+
+}  // namespace
+
+std::unique_ptr<Form> CreaForm(Declaraciones& d, std::string_view name)
+{
+    for (const auto& p : FormsPropios())
+        if (p.nombre == name)
+            return p.crea(d);
+    if (const TablaForm* tabla = TablaCampos(name))
+        return std::make_unique<ElementForm>(d, *tabla);
+    return nullptr;
+}
+
+std::unique_ptr<Form> CargaForm(Declaraciones& d, std::string_view name)
+{
+    std::unique_ptr<Form> form = CreaForm(d, name);
+    if (form)
+        form->Form_Load();
+    return form;
+}
+
+std::vector<FormInfo> ListaFormularios(Declaraciones& d)
+{
+    std::vector<FormInfo> out;
+    for (const auto& name : Nombres()) {
+        std::unique_ptr<Form> form = CreaForm(d, name);
+        out.push_back({name, CodigoCatalogo(name), form->Caption(), static_cast<int>(form->StoredControls().size())});
+    }
+    return out;
+}
 
 }  // namespace vardena

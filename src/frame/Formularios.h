@@ -18,6 +18,8 @@ struct FormInfo {
     int storedControls = 0;
 };
 
+// Creates the form by name without loading it (no Form_Load). nullptr for an unknown name.
+std::unique_ptr<Form> CreaForm(Declaraciones& d, std::string_view name);
 // Creates the form by name (case as written, e.g. "frmZapCorr", "DatosGen") and runs its
 // Form_Load, hidden. nullptr for an unknown name.
 std::unique_ptr<Form> CargaForm(Declaraciones& d, std::string_view name);

@@ -88,29 +88,17 @@ TextosRtf IniciaRtf(int unidades)
 {
     TextosRtf t;
     const std::string dos = TextosRtf::Exponente("2");
-    if (unidades == 1) {
-        t.UnTension = "kg/cm" + dos;
-        t.FacTension = 0.1;
-        t.UnFuerza = "t.";
-        t.FacFuerza = 1;
-        t.UnMomento = "m·t";
-        t.FacMomento = 1;
-        t.UnCargaSup = "kg/m" + dos;
-        t.FacCargaSup = 1000;
-        t.UnCargaLin = "kg/m";
-        t.FacCargaLin = 1000;
-    } else {
-        t.UnTension = "N/mm" + dos;
-        t.FacTension = 0.01;
-        t.UnFuerza = "kN";
-        t.FacFuerza = 10;
-        t.UnMomento = "m·kN";
-        t.FacMomento = 10;
-        t.UnCargaSup = "kN/m" + dos;
-        t.FacCargaSup = 10;
-        t.UnCargaLin = "kN/m";
-        t.FacCargaLin = 10;
-    }
+    const bool tecnico = unidades == 1;
+    t.UnTension = (tecnico ? "kg/cm" : "N/mm") + dos;
+    t.FacTension = tecnico ? 0.1 : 0.01;
+    t.UnFuerza = tecnico ? "t." : "kN";
+    t.FacFuerza = tecnico ? 1 : 10;
+    t.UnMomento = tecnico ? "m·t" : "m·kN";
+    t.FacMomento = tecnico ? 1 : 10;
+    t.UnCargaSup = (tecnico ? "kg/m" : "kN/m") + dos;
+    t.FacCargaSup = tecnico ? 1000 : 10;
+    t.UnCargaLin = tecnico ? "kg/m" : "kN/m";
+    t.FacCargaLin = tecnico ? 1000 : 10;
     t.UnArea = "m" + dos;
     t.UnVolumen = "m" + TextosRtf::Exponente("3");
     t.UnCuarta = "m" + TextosRtf::Exponente("4");
@@ -142,7 +130,7 @@ std::vector<std::string> BordesTabla(int columnas, int tipo)
     if (forma) {
         for (double fr : forma->fracciones) {
             // Int of the width times the fraction, in double precision.
-            const double edge = std::floor(static_cast<double>(static_cast<float>(TextosRtf::AnchoTabla)) * fr);
+            const double edge = std::floor(static_cast<double>(TextosRtf::AnchoTabla) * fr);
             bordes.push_back(std::to_string(static_cast<long long>(edge)));
         }
     }
@@ -231,11 +219,13 @@ std::string Informe::CeldaRtf(std::string_view tag, std::string_view a, std::str
     } else if (tag == "FinT") {
         r = T::FinTabla;
     } else {
+        // The blank ends the control word, so that a text beginning with a letter or digit
+        // is not read as part of it ("\par30" would be \par with a parameter).
         r = tag;
         if (!a.empty())
-            r += std::string(T::Par) + std::string(a);
+            r += std::string(T::Par) + " " + std::string(a);
         if (!b.empty())
-            r += std::string(T::Par) + std::string(b);
+            r += std::string(T::Par) + " " + std::string(b);
         r += T::FinCelda;
     }
     return EscapaRtf(r);

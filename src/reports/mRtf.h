@@ -69,9 +69,10 @@ struct TextosRtf {
 // The report strings for a unit system: 1 technical, any other value S.I.
 TextosRtf IniciaRtf(int unidades);
 
-// The nine escapes of report text, in order: the accented small letters, "©", "·" and the
-// carriage return. Nothing else is guarded, so that a caller's RTF (superscripts, font
-// changes) takes effect: upper-case accented letters and "º" pass as they are.
+// The nine escapes of report text, in order: "©", "á", "é", "í", "ó", "ú", "ñ", "·", and the
+// carriage return, which becomes "\par" (a line feed stays). Nothing else is guarded, so that a
+// caller's RTF (superscripts, font changes) takes effect; upper-case accented letters and "º"
+// pass as they are. Text with "\n" line ends must pass "\r\n" to get paragraph breaks.
 std::string EscapaRtf(std::string_view text);
 
 // The edges of the cells of a table of `columnas` columns of kind `tipo`, as the "ColW" texts

@@ -13,6 +13,7 @@
 #include "works/Form.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
+#include "works/VentanaError.h"
 
 namespace vardena {
 namespace {
@@ -83,35 +84,11 @@ struct RunState {
     const ConversionOptions& options;
 };
 
-// Runs `step`; an error goes to the error window under `origin`: "Reintentar" runs the step
-// again, any other answer ends the run.
-template <typename Fn>
-void Step(RunState& s, const char* origin, Fn step)
-{
-    for (;;) {
-        std::string problem;
-        int number = 0;
-        try {
-            step();
-            return;
-        } catch (const FileError& e) {
-            problem = e.what();
-            number = 75;
-        } catch (const PropertyError& e) {
-            problem = e.what();
-            number = e.number();
-        }
-        s.d.ErrorOrigen = origin;
-        if (!s.d.ui.ErrorFrm(origin, number, problem))
-            throw ProgramHalt(problem);
-    }
-}
-
 void RunRecords(RunState& s, const Dispatch& dispatch)
 {
     Declaraciones& d = s.d;
     std::unique_ptr<Form> form;
-    Step(s, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
+    ConVentanaError(s.d, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
     if (!form)
         throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
     Control& list1 = form->At("List1");
@@ -122,11 +99,11 @@ void RunRecords(RunState& s, const Dispatch& dispatch)
         const auto existing = ExistingNoCase(recordPath);
         const std::string before = FormatOf(existing);
         d.UltimaLectura = 0;
-        Step(s, "List1_Click", [&] { list1.SetListIndex(j); });
+        ConVentanaError(s.d, "List1_Click", [&] { list1.SetListIndex(j); });
         if (d.DoEvents)
             d.DoEvents();
         std::string written;
-        Step(s, "CmdCalcular_Click", [&] {
+        ConVentanaError(s.d, "CmdCalcular_Click", [&] {
             written = RutaRegistro(*form, form->At("txtTitulo").Text());
             form->At("CmdCalcular").Click();
         });
@@ -163,7 +140,7 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
     Declaraciones& d = s.d;
     const std::string path = ConBarra(d.CarpetaObra) + name;
     if (std::string(dispatch.code) == "CE") {
-        Step(s, "Aceptar_Click", [&] {
+        ConVentanaError(s.d, "Aceptar_Click", [&] {
             DatosGen form(d);
             form.Form_Load();
             form.Aceptar_Click();
@@ -173,11 +150,11 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
         return;
     }
     std::unique_ptr<Form> form;
-    Step(s, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
+    ConVentanaError(s.d, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
     if (!form)
         throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
     std::string written;
-    Step(s, "CmdCalcular_Click", [&] {
+    ConVentanaError(s.d, "CmdCalcular_Click", [&] {
         written = RutaRegistro(*form, form->At("txtTitulo").Text());
         form->At("CmdCalcular").Click();
     });

@@ -42,11 +42,12 @@ int16_t Int16(FieldReader& r) { return static_cast<int16_t>(r.Integer()); }
 
 }  // namespace
 
-std::string DatosText(const Declaraciones& d)
+std::string DatosText(const Declaraciones& d, double version)
 {
     std::string out;
     const int n = d.NPlantasSobre, m = d.NPlantasBajo;
-    LineWriter(out).text(std::string(kProductWord) + " " + std::to_string(kVersionMajor)).dbl(kProgramVersion);
+    const bool v35 = version == 3.5;
+    LineWriter(out).text(std::string(kProductWord) + " " + std::to_string(kVersionMajor)).dbl(version);
     LineWriter(out).integer(d.Unidades).integer(n).integer(m);
     for (int i = 0; i <= n; ++i)
         LineWriter(out).single(d.GenPProP[i]).single(d.GenConcP[i]).single(d.GenSobrP[i]).single(d.GenSTabP[i]).text(d.GenCUsoP[i]);
@@ -59,9 +60,15 @@ std::string DatosText(const Declaraciones& d)
         LineWriter(out).single(d.GenDia[i]);
     for (int i = 0; i < n + m; ++i)
         LineWriter(out).single(d.GenCot[i]);
-    LineWriter(out).integer(d.GenHorm).integer(d.GenAcero).integer(d.GenControl).integer(0);
+    {
+        LineWriter concrete(out);
+        concrete.integer(d.GenHorm).integer(d.GenAcero).integer(d.GenControl);
+        if (v35)
+            concrete.integer(0);
+    }
     LineWriter(out).boolean(d.GenChHormigon);
-    LineWriter(out).integer(1998);
+    if (v35)
+        LineWriter(out).integer(1998);
     LineWriter(out).integer(d.GenAcP).integer(d.GenAcP2);
     LineWriter(out).boolean(d.GenChAcero);
     LineWriter(out).integer(d.GenResis).integer(d.GenServi);
@@ -71,6 +78,8 @@ std::string DatosText(const Declaraciones& d)
     LineWriter(out).single(d.GenTens);
     LineWriter(out).boolean(d.GenChTerreno);
     LineWriter(out).single(d.GenFactor);
+    if (!v35)
+        return out;
     LineWriter(out).single(d.GenFactor);
     for (int i = 0; i < n; ++i)
         LineWriter(out).integer(0);
@@ -175,7 +184,7 @@ DatosStatus DatosFile(Declaraciones& d, std::string_view name, std::string_view 
     }
     if (m == 'G') {
         if (datos)
-            WriteFileAtomic(st.path, ToDiskText(DatosText(d)));
+            WriteFileAtomic(st.path, ToDiskText(DatosText(d, kProgramVersion)));
         else
             WriteFileAtomic(st.path, ToDiskText(text + "\r\n"));
         return st;

@@ -21,8 +21,10 @@ struct DatosStatus {
 // DESCR.~CE is read into and written from `text`; DATOS.~CE into and from the general data.
 DatosStatus DatosFile(Declaraciones& d, std::string_view name, std::string_view mode, std::string& text);
 
-// The text of DATOS.~CE for the current general data, as mode "G" writes it.
-std::string DatosText(const Declaraciones& d);
+// The text of DATOS.~CE for the current general data, as mode "G" writes it (version 3.5).
+// Another version writes the layout of version 3, without the fields of 3.5: sample works and
+// tests use it to make files as version 3 wrote them.
+std::string DatosText(const Declaraciones& d, double version = 3.5);
 // Reads the general data from the text of a DATOS.~CE (UTF-8). Throws FieldError.
 // Returns false when the file is refused (VersionObra set to 0).
 bool LeeDatosText(Declaraciones& d, const std::string& text);

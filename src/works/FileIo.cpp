@@ -103,12 +103,13 @@ void WriteFileAtomic(const std::string& path, std::string_view bytes)
         fs::remove(tmp, ec);
         throw FileError(path, std::string("cannot be written") + (err ? std::string(": ") + std::strerror(err) : ""));
     }
-    // Keep the permissions of the file being replaced.
+    // Keep the permissions of the file being replaced. A file without write permission is
+    // read-only to the program, whoever runs it: it is left as it is.
     if (fs::exists(target, ec)) {
         auto perms = fs::status(target, ec).permissions();
         if (!ec)
             fs::permissions(tmp, perms, ec);
-        if (::access(path.c_str(), W_OK) != 0) {
+        if ((perms & fs::perms::owner_write) == fs::perms::none || ::access(path.c_str(), W_OK) != 0) {
             fs::remove(tmp, ec);
             throw FileError(path, "is read-only and was left as it was");
         }

@@ -9,6 +9,7 @@
 #include "works/Form.h"
 #include "works/Subrut.h"
 #include "works/VbInput.h"
+#include "works/VentanaError.h"
 
 namespace vardena {
 namespace {
@@ -48,34 +49,6 @@ bool PropertyBelongs(Kind k, std::string_view prop)
         if (prop == p)
             return true;
     return false;
-}
-
-// A failure while reading a record, to be shown in the error window.
-struct ReadFailure {
-    int number;
-    std::string description;
-};
-
-// Runs `read` until it succeeds, showing each failure in the error window under `origin`.
-// "Reintentar" runs it again; any other answer ends the program.
-template <typename Fn>
-ReadOutcome WithErrorWindow(Declaraciones& d, const char* origin, const std::string& path, Fn read)
-{
-    for (;;) {
-        ReadFailure failure{0, {}};
-        try {
-            return read();
-        } catch (const FieldError& e) {
-            failure = {e.number(), path + ": " + e.what()};
-        } catch (const PropertyError& e) {
-            failure = {e.number(), path + ": " + e.what()};
-        } catch (const FileError& e) {
-            failure = {53, e.what()};
-        }
-        d.ErrorOrigen = origin;
-        if (!d.ui.ErrorFrm(origin, failure.number, failure.description))
-            throw ProgramHalt(failure.description);
-    }
 }
 
 std::string ReadRecordText(const std::string& path)
@@ -188,7 +161,7 @@ void FormGuardaFile2(const Form& form, const std::string& path) { WriteFileAtomi
 ReadOutcome FormLeeFile(Form& form, const std::string& path)
 {
     Declaraciones& d = form.decl();
-    return WithErrorWindow(d, "Subrut_FormLeeFile", path, [&]() -> ReadOutcome {
+    return ConVentanaError(d, "Subrut_FormLeeFile", [&]() -> ReadOutcome {
         d.VersionArchivo = 3.01f;
         const std::string text = ReadRecordText(path);
         FieldReader r(text);
@@ -235,13 +208,13 @@ ReadOutcome FormLeeFile(Form& form, const std::string& path)
         }
         d.UltimaLectura = 1;
         return ReadOutcome::Positional;
-    });
+    }, path + ": ");
 }
 
 ReadOutcome FormLeeFile2(Form& form, const std::string& path)
 {
     Declaraciones& d = form.decl();
-    return WithErrorWindow(d, "Subrut_FormLeeFile2", path, [&]() -> ReadOutcome {
+    return ConVentanaError(d, "Subrut_FormLeeFile2", [&]() -> ReadOutcome {
         const std::vector<std::string> lines = SplitLines(ReadRecordText(path));
         const std::string first = lines.empty() ? std::string() : lines[0];
         std::string versionText = Palabra(2, first, "\t");
@@ -300,7 +273,7 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
         }
         d.UltimaLectura = 2;
         return ReadOutcome::Named;
-    });
+    }, path + ": ");
 }
 
 std::string RutaRegistro(Form& form, std::string_view title)

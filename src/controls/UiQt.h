@@ -1,0 +1,53 @@
+#pragma once
+// The program's Ui on Qt: message boxes by QMessageBox, and the error window ErrorFrm with
+// its detail box, "Guardar" (Error.txt and Error.bmp in the program's folder), "Reintentar"
+// and "Salir".
+
+#include <QDialog>
+#include <string>
+#include <string_view>
+
+#include "shell/InfoSistema.h"
+#include "works/Ui.h"
+
+class QPlainTextEdit;
+class QPushButton;
+
+namespace vardena {
+
+struct Declaraciones;
+
+class UiQt : public Ui {
+public:
+    int MsgBox(std::string_view prompt, int style, std::string_view title) override;
+    bool ErrorFrm(std::string_view origin, int number, std::string_view description) override;
+
+    // The program's state, once it exists: the error window reads its settings and facts.
+    Declaraciones* decl = nullptr;
+};
+
+// The buttons of a message box style and the answer of each.
+struct BotonRespuesta {
+    const char* texto;
+    int respuesta;
+};
+std::vector<BotonRespuesta> BotonesDeEstilo(int style);
+
+class ErrorDialog : public QDialog {
+public:
+    ErrorDialog(Declaraciones* d, const DatosError& e, QWidget* parent = nullptr);
+
+    // The report that "Guardar" writes.
+    const std::string& TextoError() const { return textoError_; }
+    bool DetalleVisible() const;
+    void cmd_Detail();
+    void GuardaErr();
+
+private:
+    Declaraciones* d_;
+    std::string textoError_;
+    QPlainTextEdit* detalle_;
+    QPushButton* botonDetalle_;
+};
+
+}  // namespace vardena

@@ -1,0 +1,303 @@
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <set>
+
+#include "controls/Ventanas.h"
+#include "frame/ElementForm.h"
+#include "works/FileIo.h"
+
+namespace vardena {
+namespace {
+
+// Controls that every element window has: they make its frame, not its data.
+const std::set<std::string, std::less<>> kMarco = {"List1",        "CmdCalcular", "Listado1", "CmdSalir",     "UCBhelp",
+                                                   "Lbvers",       "RichTextBox1", "Frm1",    "UCframeRecDat", "UCframe2"};
+const std::set<std::string, std::less<>> kMateriales = {"CmbHorm",  "CmbAcero", "cmbControl", "CmbRecub",
+                                                        "cmbAceroPerfil", "CmbResis", "CmbServi", "CmbAcP"};
+// Unit labels stand beside the load field of their index.
+const std::set<std::string, std::less<>> kUnidades = {"LbQSI", "lbST", "lbSI"};
+
+bool EmpiezaPor(const std::string& s, std::string_view prefijo)
+{
+    return s.size() >= prefijo.size() && SameNameNoCase(s.substr(0, prefijo.size()), prefijo);
+}
+
+bool EsRefuerzo(Kind k) { return k == Kind::UCNumDiam || k == Kind::UCNumDiamSep || k == Kind::UCZapatas || k == Kind::UCMallazo; }
+
+// Rows a group takes on screen, to balance the columns.
+int Alto(const GrupoCampos& g)
+{
+    int filas = 0;
+    for (const Control* c : g.miembros)
+        filas += c->kind() == Kind::UCPerfil ? 3 : 1;
+    return g.miembros.size() > 8 ? (filas + 1) / 2 + 1 : filas + 1;
+}
+
+}  // namespace
+
+std::vector<GrupoCampos> AgrupaCampos(const Form& form)
+{
+    std::vector<GrupoCampos> fijos = {{"Elemento", {}}, {"Materiales", {}}, {"Datos", {}}, {"Listas", {}},
+                                      {"Opciones", {}}};
+    std::vector<GrupoCampos> familias;
+    GrupoCampos armaduras{"Armaduras", {}}, perfiles{"Perfiles", {}}, ordenes{"Órdenes", {}}, valores{"Valores", {}};
+    const Control* marcoResultados = form.Find("UCframe2");
+    GrupoCampos resultados{marcoResultados ? marcoResultados->Caption() : "Resultados", {}};
+    for (Control* c : form.Controls()) {
+        const std::string& n = c->Name();
+        if (kMarco.count(n) || kUnidades.count(n))
+            continue;
+        if (EmpiezaPor(n, "TxtRes")) {
+            resultados.miembros.push_back(c);
+        } else if (n == "txtTitulo" || n == "CmbPlanta") {
+            fijos[0].miembros.push_back(c);
+        } else if (kMateriales.count(n)) {
+            fijos[1].miembros.push_back(c);
+        } else if (c->kind() == Kind::CommandButton) {
+            ordenes.miembros.push_back(c);
+        } else if (c->kind() == Kind::Label || c->kind() == Kind::PictureBox || c->kind() == Kind::Frame) {
+            if (!c->Caption().empty() && c->Visible())
+                valores.miembros.push_back(c);
+        } else if (EsRefuerzo(c->kind()) && c->Index() < 0) {
+            armaduras.miembros.push_back(c);
+        } else if (c->kind() == Kind::UCPerfil && c->Index() < 0) {
+            perfiles.miembros.push_back(c);
+        } else if (c->Index() >= 0) {
+            auto it = std::find_if(familias.begin(), familias.end(), [&](const GrupoCampos& g) { return g.titulo == n; });
+            if (it == familias.end())
+                familias.push_back({n, {c}});
+            else
+                it->miembros.push_back(c);
+        } else if (c->kind() == Kind::TextBox) {
+            fijos[2].miembros.push_back(c);
+        } else if (c->kind() == Kind::ComboBox || c->kind() == Kind::ListBox) {
+            fijos[3].miembros.push_back(c);
+        } else {
+            fijos[4].miembros.push_back(c);
+        }
+    }
+    // The members of an array in index order, as a reader counts them.
+    for (GrupoCampos& g : familias)
+        std::stable_sort(g.miembros.begin(), g.miembros.end(),
+                         [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
+    std::vector<GrupoCampos> out;
+    for (auto* lista : {&fijos})
+        for (GrupoCampos& g : *lista)
+            out.push_back(std::move(g));
+    for (GrupoCampos& g : familias)
+        out.push_back(std::move(g));
+    for (GrupoCampos* g : {&armaduras, &perfiles, &ordenes, &valores, &resultados})
+        out.push_back(std::move(*g));
+    out.erase(std::remove_if(out.begin(), out.end(), [](const GrupoCampos& g) { return g.miembros.empty(); }), out.end());
+    return out;
+}
+
+// ---- VentanaForm ----
+
+VentanaForm::VentanaForm(std::unique_ptr<Form> form, QWidget* parent)
+    : QWidget(parent), form_(std::move(form)), vista_(std::make_unique<VistaForm>(*form_))
+{
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWindowTitle(Q(form_->Caption()));
+    vista_->trasAccion = [this] { TrasAccion(); };
+}
+
+VentanaForm::~VentanaForm()
+{
+    // The widgets go first: their last events must still find the form alive.
+    for (QObject* hijo : children())
+        if (auto* w = qobject_cast<QWidget*>(hijo))
+            delete w;
+}
+
+void VentanaForm::TrasAccion()
+{
+    setWindowTitle(Q(form_->Caption()));
+    if (Descargada() && !descargada_)
+        close();
+}
+
+void VentanaForm::closeEvent(QCloseEvent* e)
+{
+    if (!descargada_ && !Descargada() && !PuedeCerrar()) {
+        e->ignore();
+        return;
+    }
+    if (!descargada_) {
+        descargada_ = true;
+        vista_->Ejecuta([this] {
+            if (auto* el = dynamic_cast<ElementForm*>(form_.get()); !el || !el->Descargado())
+                form_->Form_Unload();
+        });
+    }
+    e->accept();
+    if (alCerrar)
+        alCerrar();
+}
+
+// ---- VentanaElemento ----
+
+VentanaElemento::VentanaElemento(std::unique_ptr<Form> form, QWidget* parent) : VentanaForm(std::move(form), parent)
+{
+    auto* raiz = new QHBoxLayout(this);
+    raiz->setContentsMargins(8, 8, 8, 8);
+    auto* izquierda = new QVBoxLayout();
+    auto* cabecera = new QLabel(Q(form_->Caption()));
+    cabecera->setStyleSheet("font-size: 15px; font-weight: bold; color: #1d3557;");
+    izquierda->addWidget(cabecera);
+    pila_ = new QStackedWidget();
+    pila_->addWidget(CreaDatos());
+    if (Control* rtb = form_->Find("RichTextBox1"))
+        pila_->addWidget(vista_->De(*rtb).widget());
+    izquierda->addWidget(pila_, 1);
+    raiz->addLayout(izquierda, 1);
+    raiz->addWidget(CreaPanel());
+    vista_->trasAccion = [this] {
+        Actualiza();
+        TrasAccion();
+    };
+    vista_->Refresca();
+    Actualiza();
+}
+
+bool VentanaElemento::Descargada() const
+{
+    auto* el = dynamic_cast<ElementForm*>(form_.get());
+    return el && el->Descargado();
+}
+
+QWidget* VentanaElemento::CreaDatos()
+{
+    auto* zona = new QScrollArea();
+    zona->setWidgetResizable(true);
+    zona->setFrameShape(QFrame::NoFrame);
+    auto* contenido = new QWidget();
+    auto* columnas = new QHBoxLayout(contenido);
+    columnas->setContentsMargins(0, 0, 0, 0);
+    constexpr int kColumnas = 3;
+    QVBoxLayout* columna[kColumnas];
+    int alto[kColumnas] = {};
+    for (auto*& c : columna) {
+        c = new QVBoxLayout();
+        columnas->addLayout(c, 1);
+    }
+    for (const GrupoCampos& g : AgrupaCampos(*form_)) {
+        const int k = static_cast<int>(std::min_element(alto, alto + kColumnas) - alto);
+        columna[k]->addWidget(CreaGrupo(g));
+        alto[k] += Alto(g);
+    }
+    for (auto* c : columna)
+        c->addStretch();
+    zona->setWidget(contenido);
+    return zona;
+}
+
+QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
+{
+    auto* grupo = new QGroupBox(Q(g.titulo));
+    grupo->setStyleSheet("QGroupBox { font-weight: bold; color: #1d3557; } QGroupBox * { font-weight: normal; }");
+    auto* rejilla = new QGridLayout(grupo);
+    rejilla->setHorizontalSpacing(6);
+    rejilla->setVerticalSpacing(3);
+    // Long groups of small fields take two pairs a row.
+    const bool dosPorFila = g.miembros.size() > 8 && std::all_of(g.miembros.begin(), g.miembros.end(), [](const Control* c) {
+                                return c->kind() == Kind::TextBox || c->kind() == Kind::ComboBox ||
+                                       c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton;
+                            });
+    int fila = 0, col = 0;
+    for (Control* c : g.miembros) {
+        QWidget* w = vista_->De(*c).widget();
+        const int base = col * 3;
+        if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton) {
+            rejilla->addWidget(w, fila, base, 1, 3);
+        } else if (c->kind() == Kind::UCPerfil) {
+            rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base);
+            rejilla->addWidget(w, fila, base + 1, 1, dosPorFila ? 2 : 5);
+        } else {
+            rejilla->addWidget(Etiqueta(c->kind() == Kind::Label ? c->Label() : EtiquetaDe(*c)), fila, base);
+            rejilla->addWidget(w, fila, base + 1);
+            if (auto* linea = qobject_cast<QLineEdit*>(w))
+                linea->setMaximumWidth(c->Name() == "txtTitulo" ? 220 : 90);
+            // The unit of a load field: the technical and the S.I. label share the cell.
+            if (c->Name() == "TxtQ") {
+                auto* unidad = new QWidget();
+                auto* h = new QHBoxLayout(unidad);
+                h->setContentsMargins(0, 0, 0, 0);
+                for (const char* par : {"lbST", "lbSI"})
+                    if (Control* u = form_->Find(par, c->Index()))
+                        h->addWidget(vista_->De(*u).widget());
+                rejilla->addWidget(unidad, fila, base + 2);
+            }
+        }
+        if (dosPorFila && col == 0) {
+            col = 1;
+        } else {
+            col = 0;
+            ++fila;
+        }
+    }
+    rejilla->setColumnStretch(dosPorFila ? 5 : 2, 1);
+    return grupo;
+}
+
+QWidget* VentanaElemento::CreaPanel()
+{
+    auto* panel = new QWidget();
+    panel->setFixedWidth(250);
+    auto* v = new QVBoxLayout(panel);
+    v->setContentsMargins(0, 0, 0, 0);
+    if (Control* lista = form_->Find("List1")) {
+        const Control* marco = form_->Find("UCframeRecDat");
+        auto* grupo = new QGroupBox(Q(marco ? marco->Caption() : "Recuperar datos"));
+        grupo->setStyleSheet("QGroupBox { font-weight: bold; color: #1d3557; }");
+        auto* g = new QVBoxLayout(grupo);
+        auto* ayuda = new QLabel(Q(lista->ToolTipText()));
+        ayuda->setWordWrap(true);
+        ayuda->setStyleSheet("color: #606878; font-size: 11px;");
+        g->addWidget(vista_->De(*lista).widget(), 1);
+        g->addWidget(ayuda);
+        v->addWidget(grupo, 1);
+    }
+    for (const char* nombre : {"CmdCalcular", "Listado1", "CmdSalir", "UCBhelp"}) {
+        Control* c = form_->Find(nombre);
+        if (!c)
+            continue;
+        if (std::string_view(nombre) == "UCBhelp" && c->Caption().empty())
+            c->SetCaption("Ayuda");
+        auto* boton = qobject_cast<QPushButton*>(vista_->De(*c).widget());
+        boton->setMinimumHeight(30);
+        if (std::string_view(nombre) == "CmdCalcular")
+            boton->setStyleSheet("QPushButton { font-weight: bold; color: #1d3557; }");
+        if (std::string_view(nombre) == "Listado1") {
+            boton->setCheckable(true);
+            listado_ = boton;
+        }
+        v->addWidget(boton);
+    }
+    if (Control* vers = form_->Find("Lbvers"))
+        v->addWidget(vista_->De(*vers).widget());
+    return panel;
+}
+
+void VentanaElemento::Actualiza()
+{
+    const Control* rtb = form_->Find("RichTextBox1");
+    const bool resultado = rtb && rtb->Visible() && pila_->count() > 1;
+    pila_->setCurrentIndex(resultado ? 1 : 0);
+    pila_->widget(0)->setVisible(!resultado);
+    if (resultado)
+        pila_->widget(1)->setVisible(true);
+    if (listado_)
+        listado_->setChecked(resultado);
+}
+
+}  // namespace vardena

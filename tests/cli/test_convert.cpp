@@ -1,0 +1,225 @@
+// The conversion end to end on the sample works: every record served comes out in the named
+// format holding exactly the values of the old one, and everything else stays as it was.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include "frame/Formularios.h"
+#include "support/TestSupport.h"
+#include "works/Catalogo.h"
+#include "works/Codepage.h"
+#include "works/FileIo.h"
+#include "works/Conversion.h"
+#include "works/Form.h"
+#include "works/Registros.h"
+#include "works/Subrut.h"
+#include "works/VbInput.h"
+
+namespace vardena {
+namespace {
+
+namespace fs = std::filesystem;
+using Snapshot = std::map<std::string, std::string>;
+
+Snapshot Take(const std::string& folder)
+{
+    Snapshot s;
+    for (const auto& e : fs::directory_iterator(folder))
+        if (e.is_regular_file())
+            s[e.path().filename().string()] = test::ReadBytes(e.path().string());
+    return s;
+}
+
+// The raw values of a record, control by control, in either format: "Name(i).Prop" -> value.
+using Values = std::map<std::string, std::string>;
+
+Values PositionalValues(const Form& form, const std::string& bytes)
+{
+    Values v;
+    const std::string text = Cp1252ToUtf8(bytes);
+    FieldReader r(text);
+    for (const Control* c : form.StoredControls()) {
+        const std::string key = c->Label();
+        EXPECT_EQ(r.Text(), c->Name());
+        switch (c->kind()) {
+        case Kind::ComboBox: {
+            int s = r.Integer();
+            v[key + ".ListIndex"] = std::to_string(c->Name() == "CmbHorm" ? CmbHormDeIndiceGuardado(s) : s);
+            break;
+        }
+        case Kind::TextBox: v[key + ".Text"] = r.Text(); break;
+        case Kind::OptionButton: v[key + ".Value"] = r.Boolean() ? "True" : "False"; break;
+        case Kind::CheckBox: v[key + ".Value"] = std::to_string(r.Integer()); break;
+        case Kind::UCPerfil: {
+            v[key + ".Num"] = r.Text();
+            const std::string perfil = r.Text();
+            v[key + ".Perfil"] = perfil;
+            const bool user = SameNameNoCase(perfil, "otro") || SameNameNoCase(perfil, "xxx");
+            v[key + (user ? ".Canto" : ".Tamano")] = r.Text();
+            v[key + ".Ancho"] = r.Text();
+            if (user)
+                for (const char* p : {".Area", ".Ix", ".Iy"})
+                    v[key + p] = r.Text();
+            break;
+        }
+        default:
+            for (const auto& p : StoredProperties(c->kind())) {
+                std::string t = r.Text();
+                v[key + "." + p] = t.substr(std::min(t.find_first_not_of(' '), t.size()));
+            }
+        }
+    }
+    return v;
+}
+
+Values NamedValues(const std::string& bytes)
+{
+    Values v;
+    std::string name;
+    std::string text = Cp1252ToUtf8(bytes);
+    size_t pos = text.find('\n');
+    for (size_t start = pos + 1; start < text.size();) {
+        size_t end = text.find('\n', start);
+        std::string line = text.substr(start, end - start);
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        start = end == std::string::npos ? text.size() : end + 1;
+        size_t t1 = line.find('\t'), t2 = line.find('\t', t1 + 1);
+        if (t1 != 0)
+            name = line.substr(0, line.find(' '));
+        v[name + line.substr(t1 + 1, t2 - t1 - 1)] = line.substr(t2 + 1);
+    }
+    return v;
+}
+
+class Conversion : public ::testing::Test {
+protected:
+    void SetUp() override { fs::copy(VARDENA_EXAMPLES, dir.path(), fs::copy_options::recursive); }
+    std::string Work(const std::string& name) const { return dir / name; }
+    test::ScratchDir dir;
+    test::TestApp app;
+};
+
+TEST_F(Conversion, EveryServedRecordKeepsItsValues)
+{
+    std::set<std::string> codesSeen;
+    for (const std::string work : {"Vivienda Ruiz", "Edificio Oroel", "Local Arce", "Taller Moncayo"}) {
+        SCOPED_TRACE(work);
+        const Snapshot before = Take(Work(work));
+        std::string out, err;
+        ASSERT_EQ(test::RunCli("convert '" + Work(work) + "'", &out, &err), 0) << out << err;
+        const Snapshot after = Take(Work(work));
+        EXPECT_EQ(after.at("DATOS.~CE").rfind("\"Vardena 3\",3.5\r\n", 0), 0u);
+
+        for (const auto& [name, old] : before) {
+            SCOPED_TRACE(name);
+            const std::string code = name.size() > 3 ? name.substr(name.size() - 2) : "";
+            const bool record = name.size() > 4 && name[name.size() - 3] == '~';
+            const bool results = name.size() > 4 && name[name.size() - 3] == 'l' && name[name.size() - 4] == '.';
+            ASSERT_TRUE(after.count(name)) << "no file disappears";
+            if (name == "DATOS.~CE" || name == "Datos.lCE")
+                continue;
+            const std::string title = name.substr(0, name.size() - 4);
+            const bool hasResults = before.count(title + ".l" + code) > 0;
+            if (!record || code == "CE" || FormDeCodigo(code).empty() || !hasResults) {
+                EXPECT_EQ(after.at(name), old) << "left byte for byte as it was";
+                (void)results;
+                continue;
+            }
+            const std::string& now = after.at(name);
+            if (title == "Zapata antigua") {
+                EXPECT_EQ(now, old) << "a record holding another title writes a new file; the old one stays";
+                continue;
+            }
+            ASSERT_EQ(now.rfind("Vardena 3\t3.50\r\n", 0), 0u) << "named format";
+            codesSeen.insert(code);
+            app.decl.CarpetaObra = Work(work);
+            auto form = CargaForm(app.decl, FormDeCodigo(code));
+            ASSERT_TRUE(form);
+            EXPECT_EQ(NamedValues(now), PositionalValues(*form, old));
+        }
+        EXPECT_EQ(test::RunCli("convert '" + Work(work) + "'", &out, &err), 1) << "a second run is refused";
+        EXPECT_EQ(Take(Work(work)), after) << "and writes nothing";
+    }
+    for (const auto& d : {"HJ", "HK", "HP", "HU", "HS", "HR", "HQ", "HV", "HW", "HY", "HZ", "LJ", "LP", "LQ", "MB", "MC",
+                          "MD", "MF", "MH", "MI", "CS", "ZA", "ZB", "ZC", "ZI", "ZM", "ZO", "ZR", "ZT", "CK"})
+        EXPECT_TRUE(codesSeen.count(d)) << "the samples hold code " << d;
+}
+
+TEST_F(Conversion, TheLogSaysWhatHappenedToEachFile)
+{
+    std::string out, err;
+    ASSERT_EQ(test::RunCli("convert '" + Work("Taller Moncayo") + "'", &out, &err), 0) << err;
+    for (const char* line : {"left-alone: Placa base.~LS", "left-alone: Escalera.~LZ", "left-alone: Escalera madera.~ME",
+                             "left-alone: Proyecto.~DP", "left-alone: Notas.~QQ", "left-alone: Sin comprobar.~ZC",
+                             "no-record: Solo resultados.~ZC", "converted: Zapata antigua.~ZC [frmZapCorr] -> Zapata renombrada.~ZC",
+                             "general-data: DATOS.~CE"})
+        EXPECT_NE(out.find(line), std::string::npos) << line << "\n" << out;
+    EXPECT_TRUE(fs::exists(Work("Taller Moncayo") + "/Zapata renombrada.~ZC"));
+}
+
+TEST_F(Conversion, RefusedWorksAndDryRunWriteNothing)
+{
+    const Snapshot converted = Take(Work("Nave Ebro"));
+    std::string out, err;
+    EXPECT_EQ(test::RunCli("convert '" + Work("Nave Ebro") + "'", &out, &err), 1);
+    EXPECT_NE(err.find("3.50"), std::string::npos) << err;
+    EXPECT_EQ(Take(Work("Nave Ebro")), converted);
+
+    const Snapshot before = Take(Work("Vivienda Ruiz"));
+    ASSERT_EQ(test::RunCli("convert --dry-run '" + Work("Vivienda Ruiz") + "'", &out, &err), 0) << err;
+    EXPECT_NE(out.find("would be written in the named format"), std::string::npos) << out;
+    EXPECT_EQ(Take(Work("Vivienda Ruiz")), before);
+
+    EXPECT_EQ(test::RunCli("convert", &out, &err), 2);
+    EXPECT_EQ(test::RunCli("convert '" + dir / "no-existe" + "'", &out, &err), 1);
+}
+
+TEST_F(Conversion, BackupAllAndJson)
+{
+    const Snapshot before = Take(Work("Local Arce"));
+    std::string out, err;
+    ASSERT_EQ(test::RunCli("convert --backup '" + dir / "copias" + "' --json '" + Work("Local Arce") + "'", &out, &err), 0)
+        << err;
+    EXPECT_EQ(Take(dir / "copias/Local Arce"), before);
+    EXPECT_EQ(out.rfind("{\"work\":", 0), 0u) << out;
+    EXPECT_NE(out.find("\"completed\":true"), std::string::npos);
+    EXPECT_NE(out.find("\"status\":\"converted\""), std::string::npos);
+
+    ASSERT_EQ(test::RunCli("convert --all '" + dir.path() + "'", &out, &err), 0) << err;
+    EXPECT_NE(out.find("Vivienda Ruiz"), std::string::npos);
+    EXPECT_NE(out.find("Edificio Oroel"), std::string::npos);
+    EXPECT_EQ(out.find("conversion of " + Work("Nave Ebro")), std::string::npos) << "3.5 works are not taken";
+}
+
+// A run that meets a record no reader accepts keeps going, saves the form's earlier state under
+// its title as version 3 did, and says so.
+TEST_F(Conversion, UnreadableRecordIsReportedAndTheRunGoesOn)
+{
+    const std::string work = Work("Vivienda Ruiz");
+    test::WriteBytes(work + "/Elemento 2.~HJ", "\"Otro\",1\r\n");
+    std::string out, err;
+    EXPECT_EQ(test::RunCli("convert '" + work + "'", &out, &err), 3) << err;
+    EXPECT_NE(out.find("refused: Elemento 2.~HJ"), std::string::npos) << out;
+    EXPECT_NE(out.find("converted: Elemento 1.~LJ"), std::string::npos) << out;
+}
+
+TEST_F(Conversion, ReadOnlyRecordEndsTheRunWithItsName)
+{
+    const std::string work = Work("Local Arce");
+    const std::string record = work + "/Elemento SI.~ZC";
+    fs::permissions(record, fs::perms::owner_write, fs::perm_options::remove);
+    const std::string old = test::ReadBytes(record);
+    std::string out, err;
+    EXPECT_EQ(test::RunCli("convert '" + work + "'", &out, &err), 1);
+    EXPECT_NE((out + err).find("Elemento SI.~ZC"), std::string::npos) << out << err;
+    EXPECT_EQ(test::ReadBytes(record), old);
+    for (const auto& e : fs::directory_iterator(work))
+        EXPECT_EQ(e.path().filename().string().find(".tmp"), std::string::npos) << "no temporary file is left";
+}
+
+}  // namespace
+}  // namespace vardena

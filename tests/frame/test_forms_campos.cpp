@@ -1,0 +1,209 @@
+// The field tables of the element forms, and the named record that each form writes from them.
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "frame/DatosForms.h"
+#include "frame/ElementForm.h"
+#include "test_forms_comun.h"
+#include "works/Catalogo.h"
+#include "works/Registros.h"
+
+namespace vardena::test {
+namespace {
+
+TEST(FormTables, EveryCatalogueElementFormAndTheFreeTextFormsHaveATable)
+{
+    for (const auto& row : Catalogo()) {
+        if (row.row < 2)
+            continue;  // the main window and the general data have no field table
+        const TablaForm* found = nullptr;
+        for (const auto& t : TablasCampos())
+            if (SameNameNoCase(t.nombre, row.form))
+                found = &t;
+        ASSERT_NE(found, nullptr) << row.form;
+        EXPECT_EQ(found->codigo, row.code) << row.form;
+    }
+    for (const char* name : {"frmEnBlanco", "frmLosCime", "frmMArco", "frmMArma", "frmSolArma", "frmUniAto",
+                             "frmUniSol", "frmVigFlot"}) {
+        const TablaForm* t = TablaCampos(name);
+        ASSERT_NE(t, nullptr) << name;
+        EXPECT_EQ(t->codigo, "") << name;
+    }
+    EXPECT_EQ(TablasCampos().size(), 34u + 8u);
+}
+
+// Transcription mistakes show up as a member defined twice, an array that changes kind, a text
+// on a control that has none, or more texts than members.
+TEST(FormTables, EveryTableIsWellFormed)
+{
+    for (const auto& t : TablasCampos()) {
+        SCOPED_TRACE(std::string(t.nombre));
+        std::set<std::pair<std::string, int>> seen;
+        std::map<std::string, char> kindOf;
+        std::map<std::string, bool> isArray;
+        int titles = 0;
+        for (const auto& c : t.campos) {
+            const std::string name(c.nombre);
+            EXPECT_NO_THROW(TipoDeLetra(c.tipo)) << name;
+            if (!c.textos.empty()) {
+                EXPECT_EQ(c.tipo, 'T') << name << " has design texts but is no text box";
+                EXPECT_LE(c.textos.size(), std::max<size_t>(1, c.indices.size())) << name;
+            }
+            auto [k, fresh] = kindOf.emplace(name, c.tipo);
+            EXPECT_EQ(k->second, c.tipo) << name << " changes kind between its stretches";
+            auto [a, freshA] = isArray.emplace(name, !c.indices.empty());
+            EXPECT_EQ(a->second, !c.indices.empty()) << name << " is both a plain control and an array";
+            if (c.indices.empty())
+                EXPECT_TRUE(seen.insert({name, -1}).second) << name << " defined twice";
+            for (int i : c.indices)
+                EXPECT_TRUE(seen.insert({name, i}).second) << name << "(" << i << ") defined twice";
+            titles += name == "txtTitulo" && c.indices.empty() && c.tipo == 'T';
+        }
+        EXPECT_EQ(titles, 1) << "every record carries its title once";
+    }
+}
+
+TEST(FormTables, EveryFormHasItsLifeCycleRowAndEveryRowItsForm)
+{
+    for (const auto& t : TablasCampos()) {
+        bool found = false;
+        for (const auto& c : Ciclos())
+            found = found || c.nombre == t.nombre;
+        EXPECT_TRUE(found) << t.nombre;
+    }
+    for (const auto& c : Ciclos())
+        EXPECT_NE(TablaCampos(c.nombre), nullptr) << c.nombre;
+}
+
+TEST(FormTables, DesignTextsFollowTheOneForAllRule)
+{
+    const CampoDef uno{"TxtPil", {7, 6, 3, 2}, 'T', {"30"}};
+    const CampoDef varios{"txtEspesor", {4, 3, 2, 1, 0, 5}, 'T', {"5", "5", "5", "5", "12"}};
+    EXPECT_EQ(TextoDeDiseno(uno, 3), "30");
+    EXPECT_EQ(TextoDeDiseno(varios, 4), "12");
+    EXPECT_EQ(TextoDeDiseno(varios, 5), "");
+    EXPECT_EQ(NumeroControles({"x", "", {uno, varios, {"Check1", {}, 'K'}}}), 11);
+}
+
+// What the table says the named record of a form holds, control by control; the value of a
+// text box is its design text, other values are not part of the table.
+void ExpectRecordFollowsTable(const TablaForm& t, const Form& form, bool textValues)
+{
+    const std::vector<ControlNombrado> got = ControlesNombrados(NamedText(form));
+    size_t k = 0;
+    for (const auto& campo : t.campos) {
+        const size_t members = campo.indices.empty() ? 1 : campo.indices.size();
+        for (size_t m = 0; m < members; ++m, ++k) {
+            const std::string label = campo.indices.empty()
+                                          ? std::string(campo.nombre)
+                                          : std::string(campo.nombre) + "(" + std::to_string(campo.indices[m]) + ")";
+            ASSERT_LT(k, got.size()) << "record ends before " << label;
+            const ControlNombrado& c = got[k];
+            ASSERT_EQ(c.etiqueta, label) << "control " << k;
+            const Kind kind = TipoDeLetra(campo.tipo);
+            EXPECT_EQ(c.tipo, KindName(kind)) << label;
+            const Control& ctl = form.At(campo.nombre, campo.indices.empty() ? -1 : campo.indices[m]);
+            const bool propia = kind == Kind::UCPerfil && EsSeccionPropia(ctl.Get("Perfil"));
+            std::vector<std::string> props;
+            for (const auto& [p, v] : c.valores)
+                props.push_back(p);
+            EXPECT_EQ(props, PropiedadesNombradas(kind, propia)) << label;
+            if (kind == Kind::TextBox && textValues) {
+                const std::string expected = label == "txtTitulo" ? TituloPorDefecto(t.nombre)
+                                                                  : std::string(TextoDeDiseno(campo, m));
+                EXPECT_EQ(c.valores[0].second, expected) << label;
+            }
+        }
+    }
+    EXPECT_EQ(got.size(), k) << "the record holds controls beyond the table";
+}
+
+class EveryForm : public ::testing::TestWithParam<const TablaForm*> {};
+
+TEST_P(EveryForm, FreshFormWritesTheTableWithItsDesignTexts)
+{
+    ObraDePrueba obra;
+    std::unique_ptr<Form> form = CreaForm(obra.d(), GetParam()->nombre);
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(static_cast<int>(form->StoredControls().size()), NumeroControles(*GetParam()));
+    ExpectRecordFollowsTable(*GetParam(), *form, true);
+}
+
+std::vector<const TablaForm*> TodasLasTablas()
+{
+    std::vector<const TablaForm*> out;
+    for (const auto& t : TablasCampos())
+        out.push_back(&t);
+    return out;
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, EveryForm, ::testing::ValuesIn(TodasLasTablas()),
+                         [](const auto& info) { return NombreDe(info.param); });
+
+// After Form_Load (defaults, units, the list of records) the record still has the table's
+// fields in the table's order, written to disk through the named writer.
+class EveryCatalogueForm : public ::testing::TestWithParam<const TablaForm*> {};
+
+TEST_P(EveryCatalogueForm, LoadedFormSavesTheTableInOrder)
+{
+    ObraDePrueba obra;
+    std::unique_ptr<Form> form = CargaForm(obra.d(), GetParam()->nombre);
+    ASSERT_NE(form, nullptr);
+    const std::string path = obra.dir / "registro";
+    FormGuardaFile2(*form, path);
+    const std::string text = ReadDiskText(path);
+    EXPECT_EQ(Lineas(text).at(0), "Vardena 3\t3.50");
+    ASSERT_EQ(text, NamedText(*form));
+    ExpectRecordFollowsTable(*GetParam(), *form, false);
+    EXPECT_TRUE(obra.app.ui.errors.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, EveryCatalogueForm, ::testing::ValuesIn(FormsDelCatalogo()),
+                         [](const auto& info) { return NombreDe(info.param); });
+
+// The free-text forms have no catalogue row: loading one ends the program after message 180.
+TEST(FormTables, FreeTextFormsCannotLoadWithoutACatalogueRow)
+{
+    ObraDePrueba obra;
+    obra.d().Mensajes[180] = "Formulario desconocido";
+    EXPECT_THROW(CargaForm(obra.d(), "frmEnBlanco"), ProgramHalt);
+    ASSERT_EQ(obra.app.ui.boxes.size(), 1u);
+    EXPECT_EQ(obra.app.ui.boxes[0].prompt, "Formulario desconocido");
+    EXPECT_EQ(obra.app.ui.boxes[0].style, mb::Critical);
+}
+
+TEST(FormTables, ListaFormulariosCountsEveryMember)
+{
+    ObraDePrueba obra;
+    const auto forms = ListaFormularios(obra.d());
+    std::map<std::string, FormInfo> byName;
+    for (const auto& f : forms)
+        byName[f.name] = f;
+    for (const auto& t : TablasCampos()) {
+        ASSERT_TRUE(byName.count(std::string(t.nombre))) << t.nombre;
+        const FormInfo& f = byName[std::string(t.nombre)];
+        EXPECT_EQ(f.code, t.codigo);
+        EXPECT_EQ(f.storedControls, NumeroControles(t)) << t.nombre;
+        EXPECT_EQ(f.caption, CaptionForm(t.nombre));
+    }
+    // Catalogue order first: the actions form leads the element forms.
+    ASSERT_GE(forms.size(), 2u);
+    EXPECT_EQ(forms[forms[0].name == "DatosGen" ? 1 : 0].name, "frmAccio");
+    EXPECT_EQ(forms.back().name, "frmVigFlot");
+    // Counted by hand from the field lists.
+    EXPECT_EQ(byName["frmZapCorr"].storedControls, 18);
+    EXPECT_EQ(byName["frmAccio"].storedControls, 54);
+}
+
+TEST(FormTables, UnknownNameCreatesNothing)
+{
+    ObraDePrueba obra;
+    EXPECT_EQ(CargaForm(obra.d(), "frmNoExiste"), nullptr);
+    EXPECT_EQ(CreaForm(obra.d(), "frmzapcorr"), nullptr);
+}
+
+}  // namespace
+}  // namespace vardena::test
