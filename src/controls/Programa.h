@@ -15,6 +15,8 @@
 class QProgressBar;
 class QStackedWidget;
 class QLabel;
+class QAction;
+class QMenu;
 
 namespace vardena {
 
@@ -29,7 +31,7 @@ public:
     Menu& menu() const { return *menu_; }
     VistaForm& vista() const { return *vista_; }
     // The menu bar's action of an item.
-    class QAction* Accion(const std::string& item) const;
+    QAction* Accion(const std::string& item) const;
     // Called once the window has closed, with the menu code of what opens next ("" ends).
     std::function<void(const std::string& opcion)> alCerrar;
 
@@ -45,8 +47,8 @@ private:
     Programa& programa_;
     std::unique_ptr<Menu> menu_;
     std::unique_ptr<VistaForm> vista_;
-    std::map<std::string, class QAction*> acciones_;
-    std::map<std::string, class QMenu*> menus_;
+    std::map<std::string, QAction*> acciones_;
+    std::map<std::string, QMenu*> menus_;
     QStackedWidget* contenido_ = nullptr;
     QProgressBar* progreso_ = nullptr;
     QWidget* carpetas_ = nullptr;

@@ -15,6 +15,7 @@
 
 class QStackedWidget;
 class QPushButton;
+class QVBoxLayout;
 
 namespace vardena {
 
@@ -89,7 +90,7 @@ private:
 
     QWidget* seccion_ = nullptr;
     QWidget* niveles_ = nullptr;
-    class QVBoxLayout* caja_ = nullptr;
+    QVBoxLayout* caja_ = nullptr;
     std::vector<QWidget*> colocados_;
     int filasNiveles_ = -1;
     bool aceptada_ = false;

@@ -1,0 +1,135 @@
+// Converts a generated work of 2,000 records, beside the time of copying the same files.
+//
+//   cmake -S . -B build -DVARDENA_BENCH=ON && cmake --build build --target bench_conversion
+//   build/bench/bench_conversion
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <random>
+
+#include "frame/Formularios.h"
+#include "shell/Platform.h"
+#include "works/Catalogo.h"
+#include "works/Conversion.h"
+#include "works/DatosFile.h"
+#include "works/Declaraciones.h"
+#include "works/FileIo.h"
+#include "works/Form.h"
+#include "works/Registros.h"
+
+using namespace vardena;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kRecords = 2000;
+// A mix of small and large forms, as a real work holds them.
+const char* kForms[] = {"frmZapCorr", "frmVigHorm", "frmPilHorm", "frmForjRet", "frmMuroH", "frmPilMet", "frmSuelo",
+                        "frmZap"};
+
+struct Quiet : Ui {
+    int MsgBox(std::string_view, int style, std::string_view) override { return (style & 7) ? mb::Yes : mb::Ok; }
+    bool ErrorFrm(std::string_view, int, std::string_view) override { return false; }
+};
+
+struct State {
+    Quiet ui;
+    Platform platform;
+    Declaraciones decl{ui, platform};
+    State()
+    {
+        platform.settings = std::make_unique<MemorySettings>();
+        decl.GeneralDataDefaults();
+        LlenaCatalogo(decl);
+    }
+};
+
+fs::path Root()
+{
+    static const fs::path root = fs::temp_directory_path() / ("vardena-bench-" + std::to_string(std::random_device{}()));
+    return root;
+}
+
+// The template work: DATOS.~CE of 3.01 and kRecords positional records with results files.
+const fs::path& Template()
+{
+    static const fs::path work = [] {
+        fs::path w = Root() / "plantilla";
+        fs::create_directories(w);
+        State s;
+        s.decl.CarpetaObra = w.string();
+        WriteFileAtomic((w / "DATOS.~CE").string(), ToDiskText(DatosText(s.decl, 3.01)));
+        WriteFileAtomic((w / "DESCR.~CE").string(), ToDiskText("Obra de medida\n"));
+        for (int i = 0; i < kRecords; ++i) {
+            const char* name = kForms[i % std::size(kForms)];
+            auto f = CargaForm(s.decl, name);
+            const std::string title = "Elemento " + std::to_string(i);
+            f->At("txtTitulo").SetText(title);
+            const std::string code = CodigoDeForm(s.decl, name);
+            FormGuardaFile(*f, (w / (title + ".~" + code)).string());
+            WriteFileAtomic((w / (title + ".l" + code)).string(), "{\\rtf1\\ansi resultados}\r\n");
+        }
+        return w;
+    }();
+    return work;
+}
+
+fs::path FreshCopy(int n)
+{
+    fs::path dest = Root() / ("copia" + std::to_string(n));
+    fs::remove_all(dest);
+    fs::copy(Template(), dest, fs::copy_options::recursive);
+    return dest;
+}
+
+void BM_Conversion(benchmark::State& state)
+{
+    int n = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const fs::path work = FreshCopy(n++);
+        State s;
+        s.decl.CarpetaObra = work.string();
+        std::string text;
+        DatosFile(s.decl, "DATOS.~CE", "L", text);
+        std::vector<std::string> list2;
+        state.ResumeTiming();
+        ConversionLog log = Convierte(s.decl, list2);
+        benchmark::DoNotOptimize(log.records);
+        if (!log.completed || log.records != kRecords)
+            state.SkipWithError("the conversion did not complete");
+    }
+    state.SetItemsProcessed(state.iterations() * kRecords);
+    state.counters["records"] = kRecords;
+}
+
+// The floor under any conversion: copying the same files.
+void BM_CopyOfTheSameFiles(benchmark::State& state)
+{
+    Template();
+    int n = 0;
+    for (auto _ : state) {
+        fs::path dest = Root() / ("solo-copia" + std::to_string(n++));
+        fs::copy(Template(), dest, fs::copy_options::recursive);
+        state.PauseTiming();
+        fs::remove_all(dest);
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * kRecords);
+}
+
+BENCHMARK(BM_Conversion)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_CopyOfTheSameFiles)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    std::error_code ec;
+    fs::remove_all(Root(), ec);
+    return 0;
+}

@@ -1,0 +1,76 @@
+#include "controls/Capturas.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QListWidget>
+#include <QPixmap>
+
+#include "controls/Programa.h"
+#include "controls/UiQt.h"
+#include "works/Aplicacion.h"
+#include "works/FileIo.h"
+#include "works/Subrut.h"
+
+namespace vardena {
+namespace {
+
+constexpr int kAncho = 1280;
+constexpr int kAlto = 800;
+
+std::string Fotografia(QWidget* w, const std::string& carpeta, const std::string& nombre)
+{
+    w->resize(kAncho, kAlto);
+    w->show();
+    for (int i = 0; i < 3; ++i)
+        QApplication::processEvents();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    w->grab().save(&buffer, "PNG");
+    const std::string ruta = ConBarra(carpeta) + nombre + ".png";
+    WriteFileAtomic(ruta, std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
+    return ruta;
+}
+
+// Shows the first stored record of an element window, as a click on its list would.
+void EligePrimerRegistro(VentanaForm* v)
+{
+    if (Control* lista = v->form().Find("List1"); lista && lista->ListCount() > 0)
+        v->vista().Ejecuta([lista] { lista->SetListIndex(0); });
+}
+
+}  // namespace
+
+std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta)
+{
+    std::vector<std::string> escritas;
+    // Closing a window here must not end the program or open the next one by itself.
+    programa.alTerminar = [] {};
+    VentanaMenu* menu = programa.AbreMenu();
+    escritas.push_back(Fotografia(menu, carpeta, "1-menu"));
+    menu->alCerrar = nullptr;
+    menu->close();
+    const std::pair<const char*, const char*> ventanas[] = {
+        {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
+        {"ZACR", "6-frmZapCorr"}};
+    for (const auto& [opcion, nombre] : ventanas) {
+        VentanaForm* v = programa.AbreOpcion(opcion);
+        if (!v)
+            continue;
+        EligePrimerRegistro(v);
+        escritas.push_back(Fotografia(v, carpeta, nombre));
+        v->alCerrar = nullptr;
+        v->close();
+    }
+    DatosError e;
+    e.numero = 75;
+    e.descripcion = "Error de acceso a la ruta o al archivo";
+    e.fuente = "vardena-gui";
+    e.origen = "CmdCalcular_Click";
+    ErrorDialog error(&programa.app().decl, e);
+    error.cmd_Detail();
+    escritas.push_back(Fotografia(&error, carpeta, "7-error"));
+    return escritas;
+}
+
+}  // namespace vardena
