@@ -1,4 +1,5 @@
 #include <QGridLayout>
+#include <algorithm>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -28,9 +29,12 @@ protected:
         p.fillRect(rect(), QColor("#f7f9fc"));
         if (s.rows.empty())
             return;
-        const double esc = height() / static_cast<double>(DatosGen::kPictureHeight);
+        // The rows fill the picture from the top, at most 0.12 pixel a twip.
+        const int desde = s.rows.front().top - 300;
+        const int hasta = s.rows.back().top + s.pitch + 300;
+        const double esc = std::min(0.12, height() / static_cast<double>(hasta - desde));
         const double izq = 20, der = width() - 80;
-        auto y = [&](int twips) { return twips * esc; };
+        auto y = [&](int twips) { return (twips - desde) * esc; };
         const int n = s.floors;
         const double suelo = y(s.rows[static_cast<size_t>(n)].top + s.pitch);
         // The ground, from the ground floor's slab down.
@@ -39,8 +43,9 @@ protected:
             const double arriba = y(fila.top);
             const double abajo = y(fila.top + s.pitch);
             if (fila.level < static_cast<int>(s.rows.size()) - 1) {
-                p.fillRect(QRectF(izq, arriba, der - izq, abajo - arriba),
-                           fila.basement ? QColor("#cbb894") : QColor("#dde7f3"));
+                // The storey under a slab is that of the level below it.
+                const bool sotano = s.rows[static_cast<size_t>(fila.level) + 1].basement;
+                p.fillRect(QRectF(izq, arriba, der - izq, abajo - arriba), sotano ? QColor("#cbb894") : QColor("#dde7f3"));
                 p.setPen(QPen(QColor("#44546a"), 3));
                 p.drawLine(QPointF(izq, arriba), QPointF(izq, abajo));
                 p.drawLine(QPointF(der, arriba), QPointF(der, abajo));
@@ -178,7 +183,9 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
     rc->addWidget(Etiqueta("Descripción"), 0, 0);
     rc->addWidget(Etiqueta("Peso"), 0, 1);
     for (int i = 0; i < 6; ++i) {
-        rc->addWidget(vista_->Widget("TextDescr", i), i + 1, 0);
+        QWidget* descr = vista_->Widget("TextDescr", i);
+        descr->setMinimumWidth(170);
+        rc->addWidget(descr, i + 1, 0);
         QWidget* v = vista_->Widget("TextValor", i);
         v->setMaximumWidth(60);
         rc->addWidget(v, i + 1, 1);
@@ -263,7 +270,10 @@ void VentanaDatosGen::ConstruyeNiveles()
     };
     for (const auto& fila : s.rows) {
         const int r = fila.level + 1;
-        coloca(vista_->Widget("lblPlanta", fila.level), r, 0, 150);
+        QWidget* etiqueta = vista_->Widget("lblPlanta", fila.level);
+        if (auto* l = qobject_cast<QLabel*>(etiqueta))
+            l->setWordWrap(false);
+        coloca(etiqueta, r, 0, 150);
         const int idx = fila.basement ? fila.level - s.floors : fila.level;
         for (int k = 0; k < 5; ++k)
             coloca(vista_->Widget(fila.basement ? kCargasS[k] : kCargasP[k], idx), r, k + 1, k == 4 ? 30 : 60);

@@ -1,4 +1,5 @@
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -39,7 +40,7 @@ int Alto(const GrupoCampos& g)
     int filas = 0;
     for (const Control* c : g.miembros)
         filas += c->kind() == Kind::UCPerfil ? 3 : 1;
-    return g.miembros.size() > 8 ? (filas + 1) / 2 + 1 : filas + 1;
+    return g.miembros.size() > 6 ? (filas + 1) / 2 + 1 : filas + 1;
 }
 
 }  // namespace
@@ -64,6 +65,8 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
             fijos[1].miembros.push_back(c);
         } else if (c->kind() == Kind::CommandButton) {
             ordenes.miembros.push_back(c);
+        } else if (c->kind() == Kind::RichTextBox) {
+            resultados.miembros.push_back(c);
         } else if (c->kind() == Kind::Label || c->kind() == Kind::PictureBox || c->kind() == Kind::Frame) {
             if (!c->Caption().empty() && c->Visible())
                 valores.miembros.push_back(c);
@@ -90,9 +93,8 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
         std::stable_sort(g.miembros.begin(), g.miembros.end(),
                          [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
     std::vector<GrupoCampos> out;
-    for (auto* lista : {&fijos})
-        for (GrupoCampos& g : *lista)
-            out.push_back(std::move(g));
+    for (GrupoCampos& g : fijos)
+        out.push_back(std::move(g));
     for (GrupoCampos& g : familias)
         out.push_back(std::move(g));
     for (GrupoCampos* g : {&armaduras, &perfiles, &ordenes, &valores, &resultados})
@@ -180,6 +182,7 @@ QWidget* VentanaElemento::CreaDatos()
     auto* zona = new QScrollArea();
     zona->setWidgetResizable(true);
     zona->setFrameShape(QFrame::NoFrame);
+    zona->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* contenido = new QWidget();
     auto* columnas = new QHBoxLayout(contenido);
     columnas->setContentsMargins(0, 0, 0, 0);
@@ -209,7 +212,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     rejilla->setHorizontalSpacing(6);
     rejilla->setVerticalSpacing(3);
     // Long groups of small fields take two pairs a row.
-    const bool dosPorFila = g.miembros.size() > 8 && std::all_of(g.miembros.begin(), g.miembros.end(), [](const Control* c) {
+    const bool dosPorFila = g.miembros.size() > 6 && std::all_of(g.miembros.begin(), g.miembros.end(), [](const Control* c) {
                                 return c->kind() == Kind::TextBox || c->kind() == Kind::ComboBox ||
                                        c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton;
                             });
@@ -217,8 +220,12 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     for (Control* c : g.miembros) {
         QWidget* w = vista_->De(*c).widget();
         const int base = col * 3;
-        if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton) {
+        if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton || c->kind() == Kind::CommandButton) {
             rejilla->addWidget(w, fila, base, 1, 3);
+        } else if (c->kind() == Kind::RichTextBox) {
+            w->setMaximumHeight(140);
+            rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base, Qt::AlignTop);
+            rejilla->addWidget(w, fila, base + 1, 1, 2);
         } else if (c->kind() == Kind::UCPerfil) {
             rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base);
             rejilla->addWidget(w, fila, base + 1, 1, dosPorFila ? 2 : 5);
@@ -227,6 +234,8 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
             rejilla->addWidget(w, fila, base + 1);
             if (auto* linea = qobject_cast<QLineEdit*>(w))
                 linea->setMaximumWidth(c->Name() == "txtTitulo" ? 220 : 90);
+            if (auto* lista = qobject_cast<QComboBox*>(w))
+                lista->setMaximumWidth(170);
             // The unit of a load field: the technical and the S.I. label share the cell.
             if (c->Name() == "TxtQ") {
                 auto* unidad = new QWidget();

@@ -314,7 +314,7 @@ public:
     QWidget* widget() const override { return boton_; }
     void Refresca() override
     {
-        boton_->setText(Q(control_.Caption()));
+        boton_->setText(Q(EtiquetaDe(control_)));
         RefrescaComun();
     }
 

@@ -23,7 +23,7 @@ struct IniLine {
 std::vector<IniLine> ParseIni(const std::string& utf8)
 {
     std::vector<IniLine> lines;
-    std::string group, cur;
+    std::string group;
     auto flush = [&](const std::string& l) {
         IniLine il{group, {}, l};
         if (!l.empty() && l.front() == '[' && l.back() == ']') {
@@ -34,19 +34,8 @@ std::vector<IniLine> ParseIni(const std::string& utf8)
         }
         lines.push_back(il);
     };
-    for (size_t i = 0; i < utf8.size(); ++i) {
-        char c = utf8[i];
-        if (c == '\r' || c == '\n') {
-            flush(cur);
-            cur.clear();
-            if (c == '\r' && i + 1 < utf8.size() && utf8[i + 1] == '\n')
-                ++i;
-        } else {
-            cur += c;
-        }
-    }
-    if (!cur.empty())
-        flush(cur);
+    for (const auto& l : SplitLines(utf8))
+        flush(l);
     return lines;
 }
 }  // namespace

@@ -205,22 +205,10 @@ DatosStatus DatosFile(Declaraciones& d, std::string_view name, std::string_view 
         std::string utf8 = Cp1252ToUtf8(bytes);
         if (!datos) {
             // Lines joined with CR LF, no line end after the last one.
-            std::string joined, cur;
-            bool any = false;
-            for (size_t i = 0; i < utf8.size(); ++i) {
-                char c = utf8[i];
-                if (c == '\r' || c == '\n') {
-                    joined += (any ? "\r\n" : "") + cur;
-                    any = true;
-                    cur.clear();
-                    if (c == '\r' && i + 1 < utf8.size() && utf8[i + 1] == '\n')
-                        ++i;
-                } else {
-                    cur += c;
-                }
-            }
-            if (!cur.empty())
-                joined += (any ? "\r\n" : "") + cur;
+            const std::vector<std::string> lines = SplitLines(utf8);
+            std::string joined;
+            for (size_t i = 0; i < lines.size(); ++i)
+                joined += (i ? "\r\n" : "") + lines[i];
             text = joined;
             return st;
         }

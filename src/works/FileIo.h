@@ -47,6 +47,9 @@ FileSystemSeam SetFileSystemSeam(FileSystemSeam seam);
 // lone CR and lone LF.
 std::string ToDiskText(std::string_view utf8);
 
+// The lines of a text cut at CR LF, lone CR or lone LF; no empty line after a final line end.
+std::vector<std::string> SplitLines(std::string_view text);
+
 // Case-insensitive file name comparison, as the file system of version 3 compared names.
 bool SameNameNoCase(std::string_view a, std::string_view b);
 // Finds `name` inside `folder` without regard to case; nullopt when there is none.

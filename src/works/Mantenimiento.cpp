@@ -69,8 +69,11 @@ void DialogoObra::RefrescaMenu(const std::string& obra)
 {
     menu_.At("Dire").SetText(Carpeta());
     menu_.Dire_Change();
-    if (!obra.empty())
-        SeleccionaEnLista(menu_.At("List1"), obra);
+    if (obra.empty())
+        return;
+    SeleccionaEnLista(menu_.At("List1"), obra);
+    if (menu_.At("List1").ListIndex() >= 0)
+        menu_.List1_Click();
 }
 
 // ---- NuevaEst ----

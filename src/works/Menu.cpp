@@ -397,6 +397,8 @@ void Menu::SituaCarpeta()
     d.Cargando = cargando;
     Dire_Change();
     SeleccionaEnLista(At("List1"), nombreObra);
+    if (At("List1").ListIndex() >= 0)
+        List1_Click();
 }
 
 void Menu::Dire_Change()

@@ -45,7 +45,9 @@ ObraInfo AbreObra(Declaraciones& d, const std::string& folder)
     std::string descr;
     DatosFile(d, "DESCR.~CE", "L", descr);
     info.description = descr == "No" ? std::string() : descr;
-    info.convertible = ConvertirHabilitado(info.hasDatos, d.VersionObra);
+    // General data that could not be read whole are never rewritten: the conversion would
+    // store the part that was read and lose the rest.
+    info.convertible = ConvertirHabilitado(info.hasDatos, d.VersionObra) && !info.datosDamaged;
     return info;
 }
 

@@ -17,7 +17,7 @@ struct ObraInfo {
     std::string versionText;    // Formato00Punto of it
     std::vector<std::string> contents;  // ListaElementos
     std::string description;    // DESCR.~CE, lines joined with CR LF
-    bool convertible = false;   // the rule of the "CONVERTIR" button
+    bool convertible = false;   // the rule of the "CONVERTIR" button, and general data read whole
 };
 
 // The rule of the "CONVERTIR" button: a work whose DATOS.~CE exists and whose version is

@@ -30,61 +30,39 @@ double ValComa(std::string& text)
         while (i < text.size() && IsBlank(text[i]))
             ++i;
     };
+    // Appends a run of digits (blanks between them skipped) to `into`; true when there was one.
+    auto digitsInto = [&](std::string& into) {
+        bool any = false;
+        for (skip(); i < text.size() && IsDigit(text[i]); skip()) {
+            into += text[i++];
+            any = true;
+        }
+        return any;
+    };
     skip();
     if (i < text.size() && (text[i] == '+' || text[i] == '-'))
         num += text[i++];
-    bool digits = false;
-    for (;; ) {
-        skip();
-        if (i < text.size() && IsDigit(text[i])) {
-            num += text[i++];
-            digits = true;
-        } else {
-            break;
-        }
-    }
-    skip();
+    bool digits = digitsInto(num);
     if (i < text.size() && text[i] == '.') {
         num += text[i++];
-        for (;;) {
-            skip();
-            if (i < text.size() && IsDigit(text[i])) {
-                num += text[i++];
-                digits = true;
-            } else {
-                break;
-            }
-        }
+        digits = digitsInto(num) || digits;
     }
     if (!digits)
         return 0;
-    skip();
     if (i < text.size() && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
-        size_t save = i;
+        const size_t save = i;
         std::string exp = "e";
         ++i;
         skip();
         if (i < text.size() && (text[i] == '+' || text[i] == '-'))
             exp += text[i++];
-        bool expDigits = false;
-        for (;;) {
-            skip();
-            if (i < text.size() && IsDigit(text[i])) {
-                exp += text[i++];
-                expDigits = true;
-            } else {
-                break;
-            }
-        }
-        if (expDigits)
+        if (digitsInto(exp))
             num += exp;
         else
             i = save;
     }
-    double v = std::strtod(num.c_str(), nullptr);
-    if (!std::isfinite(v))
-        return 0;
-    return v;
+    const double v = std::strtod(num.c_str(), nullptr);
+    return std::isfinite(v) ? v : 0;
 }
 
 double ValComaCopy(std::string_view text)

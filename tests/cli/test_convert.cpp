@@ -195,6 +195,18 @@ TEST_F(Conversion, BackupAllAndJson)
     EXPECT_EQ(out.find("conversion of " + Work("Nave Ebro")), std::string::npos) << "3.5 works are not taken";
 }
 
+TEST_F(Conversion, DamagedGeneralDataAreNeverRewritten)
+{
+    const std::string work = Work("Vivienda Ruiz");
+    const std::string datos = test::ReadBytes(work + "/DATOS.~CE");
+    test::WriteBytes(work + "/DATOS.~CE", datos.substr(0, datos.size() / 2));
+    const Snapshot before = Take(work);
+    std::string out, err;
+    EXPECT_EQ(test::RunCli("convert '" + work + "'", &out, &err), 1);
+    EXPECT_NE(err.find("DATOS.~CE"), std::string::npos) << err;
+    EXPECT_EQ(Take(work), before);
+}
+
 // A run that meets a record no reader accepts keeps going, saves the form's earlier state under
 // its title as version 3 did, and says so.
 TEST_F(Conversion, UnreadableRecordIsReportedAndTheRunGoesOn)

@@ -5,6 +5,7 @@
 #include <functional>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "works/Aplicacion.h"
@@ -30,6 +31,9 @@ struct Registrar {
         Registry().push_back({std::move(name), std::move(synopsis), std::move(summary), std::move(run)});
     }
 };
+
+// A JSON string literal of `s` (UTF-8), quotes included.
+std::string JsonText(std::string_view s);
 
 // Prints "vardena: error: MSG" on standard error and returns kFailure.
 int Fail(const std::string& msg);

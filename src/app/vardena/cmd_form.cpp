@@ -243,28 +243,7 @@ std::string Une(const std::vector<std::string>& cols)
 
 // ---- JSON output ----
 
-std::string Json(const std::string& s)
-{
-    std::string out = "\"";
-    for (unsigned char ch : s) {
-        switch (ch) {
-        case '"': out += "\\\""; break;
-        case '\\': out += "\\\\"; break;
-        case '\n': out += "\\n"; break;
-        case '\r': out += "\\r"; break;
-        case '\t': out += "\\t"; break;
-        default:
-            if (ch < 0x20) {
-                char buf[8];
-                std::snprintf(buf, sizeof buf, "\\u%04x", ch);
-                out += buf;
-            } else {
-                out += static_cast<char>(ch);
-            }
-        }
-    }
-    return out + "\"";
-}
+std::string Json(const std::string& s) { return JsonText(s); }
 
 std::string JsonBool(bool b) { return b ? "true" : "false"; }
 

@@ -2,6 +2,7 @@
 // the core library.
 
 #include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -24,6 +25,29 @@ int Fail(const std::string& msg)
 {
     std::cerr << "vardena: error: " << msg << "\n";
     return kFailure;
+}
+
+std::string JsonText(std::string_view s)
+{
+    std::string out = "\"";
+    for (unsigned char ch : s) {
+        switch (ch) {
+        case '"': out += "\\\""; break;
+        case '\\': out += "\\\\"; break;
+        case '\n': out += "\\n"; break;
+        case '\r': out += "\\r"; break;
+        case '\t': out += "\\t"; break;
+        default:
+            if (ch < 0x20) {
+                char buf[8];
+                std::snprintf(buf, sizeof buf, "\\u%04x", ch);
+                out += buf;
+            } else {
+                out += static_cast<char>(ch);
+            }
+        }
+    }
+    return out + "\"";
 }
 
 int Usage(const std::string& command)
