@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "controls/Vista.h"
 #include "works/Catalogo.h"
@@ -119,11 +120,17 @@ bool ErrorDialog::DetalleVisible() const { return !detalle_->isHidden(); }
 
 void ErrorDialog::cmd_Detail()
 {
+    // The window grows by the detail box and a margin, and comes back to its size on closing it.
     const bool abre = botonDetalle_->text() == "Detalles >>";
-    const int alto = detalle_->minimumHeight() + 8;
+    if (abre)
+        altoCerrado_ = height();
     detalle_->setVisible(abre);
     botonDetalle_->setText(abre ? "Detalles <<" : "Detalles >>");
-    resize(width(), height() + (abre ? alto : -alto));
+    layout()->invalidate();
+    layout()->activate();
+    if (!abre)
+        setMinimumHeight(std::min(minimumSizeHint().height(), altoCerrado_));
+    resize(width(), abre ? altoCerrado_ + detalle_->minimumHeight() + 8 : altoCerrado_);
 }
 
 void ErrorDialog::GuardaErr()

@@ -48,6 +48,7 @@ private:
     std::string textoError_;
     QPlainTextEdit* detalle_;
     QPushButton* botonDetalle_;
+    int altoCerrado_ = 0;
 };
 
 }  // namespace vardena

@@ -406,6 +406,8 @@ Adaptador& VistaForm::De(Control& c, const OpcionesAdaptador& op)
     auto it = adaptadores_.find(&c);
     if (it == adaptadores_.end()) {
         it = adaptadores_.emplace(&c, CreaAdaptador(c, *this, op)).first;
+        // The widget answers to the control's name, as tests and accessibility tools find it.
+        it->second->widget()->setObjectName(Q(c.Label()));
         it->second->Refresca();
     }
     return *it->second;

@@ -537,7 +537,7 @@ void Menu::DescripcionRtf()
             inicio = fin + 1;
         }
         for (size_t i = 0; i < lineas.size(); ++i)
-            informe.Linea(i == 0 ? "Tit2" : "Tex1", EscapaRtf(lineas[i]));
+            informe.Linea(i == 0 ? "Tit2" : "Tex1", lineas[i]);
         informe.Linea("FinD");
         informe.Guarda(ConBarra(d.CarpetaObra) + "Descr.l" + Catalogo()[0].code);
     });

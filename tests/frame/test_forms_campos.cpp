@@ -56,8 +56,9 @@ TEST(FormTables, EveryTableIsWellFormed)
             EXPECT_EQ(k->second, c.tipo) << name << " changes kind between its stretches";
             auto [a, freshA] = isArray.emplace(name, !c.indices.empty());
             EXPECT_EQ(a->second, !c.indices.empty()) << name << " is both a plain control and an array";
-            if (c.indices.empty())
+            if (c.indices.empty()) {
                 EXPECT_TRUE(seen.insert({name, -1}).second) << name << " defined twice";
+            }
             for (int i : c.indices)
                 EXPECT_TRUE(seen.insert({name, i}).second) << name << "(" << i << ") defined twice";
             titles += name == "txtTitulo" && c.indices.empty() && c.tipo == 'T';

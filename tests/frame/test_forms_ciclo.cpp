@@ -170,8 +170,9 @@ TEST_F(Ciclo, DeleteSendsResultsAndRecordToTheRecycleBin)
         r.action(list);
         EXPECT_EQ(papelera, r.expected);
         EXPECT_EQ(list.ListCount(), r.expected.empty() ? 1 : 0);
-        if (r.answer == mb::No)
+        if (r.answer == mb::No) {
             EXPECT_EQ(ui().boxes.at(0).prompt, "¿Borrar Zapata 1?");
+        }
     }
 }
 

@@ -27,8 +27,9 @@ void ExpectMatches(const std::string& expected, const std::string& got, bool sol
         const auto h = Columnas(have[i]);
         EXPECT_EQ(h[0], w[0]) << "line " << i + 1;
         EXPECT_EQ(h[1], w[1]) << "line " << i + 1 << " " << w[0];
-        if (!soloForma && w[2] != "*")
+        if (!soloForma && w[2] != "*") {
             EXPECT_EQ(h[2], w[2]) << "line " << i + 1 << " " << w[0] << w[1];
+        }
     }
     EXPECT_EQ(have.size(), want.size());
 }

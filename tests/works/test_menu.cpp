@@ -139,7 +139,7 @@ TEST(Menu, AnEmptyDescriptionShowsThePlaceholderAndIsNotSaved)
     EXPECT_EQ(ReadDiskText(descr), "Nave nueva\nsegunda línea\n");
     const auto rtf = FindNoCase(m.Obra("Nave Ebro"), "Descr.lCE");
     ASSERT_TRUE(rtf);
-    EXPECT_NE(ReadBytes(m.Obra("Nave Ebro") + "/" + *rtf).find("Nave nueva"), std::string::npos);
+    EXPECT_NE(ReadBytes(*rtf).find("Nave nueva"), std::string::npos);
 }
 
 TEST(Menu, ElementCommandsCloseTheWindowWithTheirCode)

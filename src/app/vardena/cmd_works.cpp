@@ -4,6 +4,7 @@
 
 #include "Commands.h"
 #include "works/Catalogo.h"
+#include "works/FileIo.h"
 #include "works/Obra.h"
 
 namespace vardena::cli {
@@ -37,11 +38,8 @@ int CmdInfo(Aplicacion& app, const std::vector<std::string>& args)
     for (const auto& line : info.contents)
         std::cout << "  " << line << "\n";
     std::cout << "description:\n";
-    std::string d = info.description;
-    for (size_t k; (k = d.find("\r\n")) != std::string::npos;)
-        d.replace(k, 2, "\n");
-    if (!d.empty())
-        std::cout << d << "\n";
+    for (const auto& line : SplitLines(info.description))
+        std::cout << line << "\n";
     return kOk;
 }
 
