@@ -5,6 +5,7 @@
 #include <string>
 #include <unistd.h>
 
+#include "reports/RtfLector.h"
 #include "shell/Platform.h"
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
@@ -99,6 +100,13 @@ void GeneralData(const uint8_t* data, size_t size)
         std::string text;
         DatosFile(env.decl, "DATOS.~CE", "L", text);
     });
+}
+
+void RtfReader(const uint8_t* data, size_t size)
+{
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    (void)RtfATexto(bytes);
+    (void)RtfAHtml(bytes);
 }
 
 }  // namespace vardena::fuzz

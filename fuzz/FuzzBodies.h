@@ -11,5 +11,7 @@ namespace vardena::fuzz {
 void PositionalRecord(const uint8_t* data, size_t size);
 void NamedRecord(const uint8_t* data, size_t size);
 void GeneralData(const uint8_t* data, size_t size);
+// The RTF reader of stored results, to plain text and to HTML.
+void RtfReader(const uint8_t* data, size_t size);
 
 }  // namespace vardena::fuzz

@@ -167,17 +167,8 @@ public:
         const std::string perfil = control_.Get("Perfil");
         familia_->setCurrentIndex(IndiceFamiliaPerfil(perfil));
         const VistaPerfil vista = VistaDePerfil(control_);
-        QStringList tamanos;
-        for (const auto& t : vista.tamanos)
-            tamanos << Q(t);
-        QStringList actuales;
-        for (int i = 0; i < tamano_->count(); ++i)
-            actuales << tamano_->itemText(i);
-        if (tamanos != actuales) {
-            tamano_->clear();
-            tamano_->addItems(tamanos);
-        }
-        tamano_->setVisible(!tamanos.isEmpty());
+        PoneItems(tamano_, vista.tamanos);
+        tamano_->setVisible(!vista.tamanos.empty());
         tamano_->setCurrentIndex(vista.tamanoElegido);
         const bool propio = EsSeccionUsuario(perfil);
         const std::string valores[] = {control_.Get("Canto"), control_.Get("Ancho"), propio ? control_.Get("Area") : vista.area,

@@ -368,10 +368,9 @@ VentanaForm* Programa::Coloca(std::unique_ptr<Form> form)
     return ventana;
 }
 
-VentanaForm* Programa::AbreOpcion(const std::string& opcion)
+std::unique_ptr<Form> Programa::CargaVentana(const std::string& nombre, const std::string& pedido)
 {
     Declaraciones& d = app_.decl;
-    const std::string nombre = FormularioDeOpcion(opcion);
     std::unique_ptr<Form> form;
     Guarda([&] {
         if (nombre == "DatosGen") {
@@ -381,9 +380,16 @@ VentanaForm* Programa::AbreOpcion(const std::string& opcion)
             form = CargaForm(d, nombre);
         }
     });
-    if (!form) {
-        d.ui.MsgBox("Esta ventana no está disponible en esta versión: " + (nombre.empty() ? opcion : nombre),
+    if (!form)
+        d.ui.MsgBox("Esta ventana no está disponible en esta versión: " + (nombre.empty() ? pedido : nombre),
                     mb::Information, "");
+    return form;
+}
+
+VentanaForm* Programa::AbreOpcion(const std::string& opcion)
+{
+    std::unique_ptr<Form> form = CargaVentana(FormularioDeOpcion(opcion), opcion);
+    if (!form) {
         AbreMenu();
         return nullptr;
     }
@@ -400,13 +406,9 @@ VentanaForm* Programa::AbreOpcion(const std::string& opcion)
 
 VentanaForm* Programa::AbreEncima(const std::string& formulario)
 {
-    Declaraciones& d = app_.decl;
-    std::unique_ptr<Form> form;
-    Guarda([&] { form = CargaForm(d, formulario); });
-    if (!form) {
-        d.ui.MsgBox("Esta ventana no está disponible en esta versión: " + formulario, mb::Information, "");
+    std::unique_ptr<Form> form = CargaVentana(formulario, formulario);
+    if (!form)
         return nullptr;
-    }
     VentanaForm* ventana = Coloca(std::move(form));
     ventana->alCerrar = [this, ventana] {
         Olvida(ventana);

@@ -82,6 +82,8 @@ public:
     std::function<void()> alTerminar;
 
 private:
+    // The form of a window, loaded; a box and nullptr when this program has no such form.
+    std::unique_ptr<Form> CargaVentana(const std::string& nombre, const std::string& pedido);
     VentanaForm* Coloca(std::unique_ptr<Form> form);
     void Registra(Form& form, QWidget* w);
     void Olvida(QWidget* w);

@@ -50,7 +50,7 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
     std::vector<GrupoCampos> fijos = {{"Elemento", {}}, {"Materiales", {}}, {"Datos", {}}, {"Listas", {}},
                                       {"Opciones", {}}};
     std::vector<GrupoCampos> familias;
-    GrupoCampos armaduras{"Armaduras", {}}, perfiles{"Perfiles", {}}, ordenes{"Órdenes", {}}, valores{"Valores", {}};
+    GrupoCampos armaduras{"Armaduras", {}}, perfiles{"Perfiles", {}}, ordenes{"Órdenes", {}};
     const Control* marcoResultados = form.Find("UCframe2");
     GrupoCampos resultados{marcoResultados ? marcoResultados->Caption() : "Resultados", {}};
     for (Control* c : form.Controls()) {
@@ -68,8 +68,8 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
         } else if (c->kind() == Kind::RichTextBox) {
             resultados.miembros.push_back(c);
         } else if (c->kind() == Kind::Label || c->kind() == Kind::PictureBox || c->kind() == Kind::Frame) {
-            if (!c->Caption().empty() && c->Visible())
-                valores.miembros.push_back(c);
+            // Captions and frames of the designed window: the grouping here takes their place.
+            continue;
         } else if (EsRefuerzo(c->kind()) && c->Index() < 0) {
             armaduras.miembros.push_back(c);
         } else if (c->kind() == Kind::UCPerfil && c->Index() < 0) {
@@ -97,7 +97,7 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
         out.push_back(std::move(g));
     for (GrupoCampos& g : familias)
         out.push_back(std::move(g));
-    for (GrupoCampos* g : {&armaduras, &perfiles, &ordenes, &valores, &resultados})
+    for (GrupoCampos* g : {&armaduras, &perfiles, &ordenes, &resultados})
         out.push_back(std::move(*g));
     out.erase(std::remove_if(out.begin(), out.end(), [](const GrupoCampos& g) { return g.miembros.empty(); }), out.end());
     return out;
@@ -232,8 +232,10 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
         } else {
             rejilla->addWidget(Etiqueta(c->kind() == Kind::Label ? c->Label() : EtiquetaDe(*c)), fila, base);
             rejilla->addWidget(w, fila, base + 1);
-            if (auto* linea = qobject_cast<QLineEdit*>(w))
+            if (auto* linea = qobject_cast<QLineEdit*>(w)) {
+                linea->setMinimumWidth(c->Name() == "txtTitulo" ? 150 : 64);
                 linea->setMaximumWidth(c->Name() == "txtTitulo" ? 220 : 90);
+            }
             if (auto* lista = qobject_cast<QComboBox*>(w))
                 lista->setMaximumWidth(170);
             // The unit of a load field: the technical and the S.I. label share the cell.

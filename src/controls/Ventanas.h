@@ -53,7 +53,7 @@ struct GrupoCampos {
 };
 // The data fields of an element form grouped for display: the element's identity, materials,
 // single data, lists and options, one group per control array, reinforcement, sections, and the
-// results last. Frame controls and unit labels are left out.
+// results last. Frame controls, unit labels and the designed captions and frames are left out.
 std::vector<GrupoCampos> AgrupaCampos(const Form& form);
 
 // The window of any element form.

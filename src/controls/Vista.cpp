@@ -177,16 +177,7 @@ public:
     QWidget* widget() const override { return combo_; }
     void Refresca() override
     {
-        QStringList items;
-        for (const auto& s : control_.Items())
-            items << Q(s);
-        QStringList actuales;
-        for (int i = 0; i < combo_->count(); ++i)
-            actuales << combo_->itemText(i);
-        if (items != actuales) {
-            combo_->clear();
-            combo_->addItems(items);
-        }
+        PoneItems(combo_, control_.Items());
         combo_->setCurrentIndex(control_.ListIndex());
         RefrescaComun();
     }
@@ -454,6 +445,20 @@ void VistaForm::Refresca()
     for (auto& [control, adaptador] : adaptadores_)
         adaptador->Refresca();
     refrescando_ = false;
+}
+
+void PoneItems(QComboBox* combo, const std::vector<std::string>& items)
+{
+    QStringList nuevos;
+    for (const auto& s : items)
+        nuevos << Q(s);
+    QStringList actuales;
+    for (int i = 0; i < combo->count(); ++i)
+        actuales << combo->itemText(i);
+    if (nuevos != actuales) {
+        combo->clear();
+        combo->addItems(nuevos);
+    }
 }
 
 QLabel* Etiqueta(const std::string& texto, QWidget* padre)

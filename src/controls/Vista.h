@@ -15,6 +15,7 @@
 #include "works/Form.h"
 
 class QLabel;
+class QComboBox;
 
 namespace vardena {
 
@@ -81,6 +82,9 @@ private:
     std::map<const Control*, std::unique_ptr<Adaptador>> adaptadores_;
     bool refrescando_ = false;
 };
+
+// Puts `items` in a pick list, leaving it alone when it holds them already.
+void PoneItems(QComboBox* combo, const std::vector<std::string>& items);
 
 // A label of a field, in the window's style.
 QLabel* Etiqueta(const std::string& texto, QWidget* padre = nullptr);

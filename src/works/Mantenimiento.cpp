@@ -42,6 +42,17 @@ std::string SiguienteNombre(const std::string& carpeta, std::string nombre)
 
 // ---- What the three dialogs share ----
 
+namespace {
+
+// A work's name is a folder's name: the keys that cannot stand in one are swallowed.
+void FiltraTitulo(Control&, int& key)
+{
+    if (TeclaProhibidaEnTitulo(key))
+        key = 0;
+}
+
+}  // namespace
+
 DialogoObra::DialogoObra(Declaraciones& d, Menu& menu, std::string name, std::string caption)
     : Form(d, std::move(name), std::move(caption)), menu_(menu)
 {
@@ -81,10 +92,7 @@ void DialogoObra::RefrescaMenu(const std::string& obra)
 NuevaEst::NuevaEst(Declaraciones& d, Menu& menu) : DialogoObra(d, menu, "NuevaEst", "Nueva Obra a Vardena")
 {
     Campo("direct", "Carpeta de las obras:", true);
-    Campo("Nuev", "Nombre de la obra:").onKeyPress = [](Control&, int& key) {
-        if (TeclaProhibidaEnTitulo(key))
-            key = 0;
-    };
+    Campo("Nuev", "Nombre de la obra:").onKeyPress = FiltraTitulo;
     Campo("Text1", "Proyecto:");
     Campo("Text2", "Promotor:");
     Campo("Text3", "Situación:");
@@ -171,10 +179,7 @@ Copiar::Copiar(Declaraciones& d, Menu& menu) : DialogoObra(d, menu, "Copiar", "C
 {
     Campo("direct", "Carpeta de las obras:", true);
     Campo("NombAct", "Obra a copiar:", true);
-    Campo("Nuev", "Nombre de la copia:").onKeyPress = [](Control&, int& key) {
-        if (TeclaProhibidaEnTitulo(key))
-            key = 0;
-    };
+    Campo("Nuev", "Nombre de la copia:").onKeyPress = FiltraTitulo;
     AnadeBotones();
 }
 

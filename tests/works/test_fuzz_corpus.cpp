@@ -27,6 +27,7 @@ void Replay(const std::string& sub, void (*body)(const uint8_t*, size_t))
 TEST(FuzzCorpus, PositionalRecords) { Replay("positional", fuzz::PositionalRecord); }
 TEST(FuzzCorpus, NamedRecords) { Replay("named", fuzz::NamedRecord); }
 TEST(FuzzCorpus, GeneralData) { Replay("datos", fuzz::GeneralData); }
+TEST(FuzzCorpus, RtfReader) { Replay("rtf", fuzz::RtfReader); }
 
 }  // namespace
 }  // namespace vardena
