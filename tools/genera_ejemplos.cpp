@@ -215,14 +215,10 @@ int main(int argc, char** argv)
         d.Datos(3.01, 1, 2, 0);
         d.Descr("Taller: elementos que la conversión deja como están.");
         // Codes the run does not serve stay byte for byte as they are.
-        d.Raw("Placa base.~LS", "\"CmbTornillos\",1\n\"CmbAcero\",2\n");
-        d.Raw("Placa base.lLS", Rtf("Placa base", "frmBasMet"));
-        d.Raw("Escalera.~LZ", "\"CmbAcero\",1\n");
-        d.Raw("Escalera.lLZ", Rtf("Escalera", "frmEscMet"));
-        d.Raw("Escalera madera.~ME", "\"CmbPlanta\",0\n");
-        d.Raw("Escalera madera.lME", Rtf("Escalera madera", "frmEscMade"));
-        d.Raw("Proyecto.~DP", "\"Text1\",\"Proyecto básico\"\n");
-        d.Raw("Proyecto.lDP", Rtf("Proyecto", "frmDatosProy"));
+        d.Record("frmBasMet", "Placa base", 1);
+        d.Record("frmEscMet", "Escalera", 2);
+        d.Record("frmEscMade", "Escalera madera", 1);
+        d.Record("frmDatosProy", "Proyecto", 1);
         d.Raw("Notas.~QQ", "\"desconocido\",1\n");
         // A record saved but never checked, a results file with no record, and a record whose
         // title differs from its file name.

@@ -308,9 +308,9 @@ void DatosGen::pasaMatPan()
     }
     for (int i = 1; i <= 6; ++i) {
         At("TextDescr", i - 1).SetText(d.GenDescr[i]);
-        At("TextValor", i - 1).SetText(FormatoNum(static_cast<double>(d.GenValor[i]) * 1000));
+        At("TextValor", i - 1).SetText(FormatoNum(d.GenValor[i] * 1000.0f));
     }
-    At("TextTotal").SetText(FormatoNum(static_cast<double>(d.GenValor[7]) * 1000));
+    At("TextTotal").SetText(FormatoNum(d.GenValor[7] * 1000.0f));
     for (int i = 1; i <= 6; ++i)
         At("TextDia", i - 1).SetText(Formato0(d.GenDia[i]));
     for (int i = 0; i < n + m; ++i)

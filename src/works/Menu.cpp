@@ -270,10 +270,16 @@ void Menu::ConectaEventos()
     conecta("Salir", &Menu::Salir_Click);
     for (const ItemPreferencia& p : kPreferencias)
         At(p.item).onClick = [this, p](Control&) { Preferencia(p.item, p.clave); };
-    for (const auto& [item, formato] : kFormatos)
+    // Plain copies: a lambda does not capture structured bindings on every compiler.
+    for (const auto& entry : kFormatos) {
+        const auto item = entry.first;
+        const auto formato = entry.second;
         At(item).onClick = [this, item, formato](Control&) { FormatoCaptura(item, formato); };
-    for (const auto& [item, opcion] : kOpciones)
-        At(item).onClick = [this, opcion](Control&) { AbreOpcion(opcion); };
+    }
+    for (const auto& entry : kOpciones) {
+        const auto opcion = entry.second;
+        At(entry.first).onClick = [this, opcion](Control&) { AbreOpcion(opcion); };
+    }
     At("Sistema_Unidades").onClick = [this](Control&) {
         if (!ganchos.modal)
             return;

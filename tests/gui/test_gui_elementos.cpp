@@ -73,8 +73,9 @@ TEST(GuiElementos, EveryElementWindowOpensListsLoadsAndSavesAsTheCommandLine)
         auto* lista = v->findChild<QListWidget*>("List1");
         ASSERT_NE(lista, nullptr);
         const std::string carpeta = p.dir / (obra.empty() ? "Vivienda Ruiz" : obra);
-        if (form != "frmAccio")
+        if (form != "frmAccio") {
             EXPECT_EQ(lista->count(), static_cast<int>(FilesEndingWith(carpeta, ".l" + codigo).size()));
+        }
         // Records of the forms that the conversion leaves alone may be of another layout: those
         // windows save their defaults, as the command line does without a title.
         std::string titulo;
