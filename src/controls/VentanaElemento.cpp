@@ -13,6 +13,7 @@
 #include <set>
 
 #include "controls/Ventanas.h"
+#include "frame/ControlesVisibles.h"
 #include "frame/ElementForm.h"
 #include "works/FileIo.h"
 
@@ -33,6 +34,26 @@ bool EmpiezaPor(const std::string& s, std::string_view prefijo)
 }
 
 bool EsRefuerzo(Kind k) { return k == Kind::UCNumDiam || k == Kind::UCNumDiamSep || k == Kind::UCZapatas || k == Kind::UCMallazo; }
+
+// The heading of a control array: the caption that its row of index -1 gives, else its name.
+std::string TituloDeArray(const Form& form, const std::string& nombre)
+{
+    for (const ControlVisible& v : ControlesVisibles(form.Name()))
+        if (v.index < 0 && SameNameNoCase(v.nombre, nombre))
+            return std::string(v.caption);
+    return nombre;
+}
+
+// The label of a field in its group; members of an array that share a caption are told apart
+// by their index.
+std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g)
+{
+    std::string texto = c.kind() == Kind::Label ? c.Label() : EtiquetaDe(c);
+    const bool repetida = c.Index() >= 0 && std::count_if(g.miembros.begin(), g.miembros.end(), [&](const Control* o) {
+                                                 return o->Caption() == c.Caption();
+                                             }) > 1;
+    return repetida && !c.Caption().empty() ? texto + " " + std::to_string(c.Index()) : texto;
+}
 
 // Rows a group takes on screen, to balance the columns.
 int Alto(const GrupoCampos& g)
@@ -75,9 +96,10 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
         } else if (c->kind() == Kind::UCPerfil && c->Index() < 0) {
             perfiles.miembros.push_back(c);
         } else if (c->Index() >= 0) {
-            auto it = std::find_if(familias.begin(), familias.end(), [&](const GrupoCampos& g) { return g.titulo == n; });
+            auto it = std::find_if(familias.begin(), familias.end(),
+                                   [&](const GrupoCampos& g) { return g.miembros.front()->Name() == n; });
             if (it == familias.end())
-                familias.push_back({n, {c}});
+                familias.push_back({TituloDeArray(form, n), {c}});
             else
                 it->miembros.push_back(c);
         } else if (c->kind() == Kind::TextBox) {
@@ -230,7 +252,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
             rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base);
             rejilla->addWidget(w, fila, base + 1, 1, dosPorFila ? 2 : 5);
         } else {
-            rejilla->addWidget(Etiqueta(c->kind() == Kind::Label ? c->Label() : EtiquetaDe(*c)), fila, base);
+            rejilla->addWidget(Etiqueta(EtiquetaEnGrupo(*c, g)), fila, base);
             rejilla->addWidget(w, fila, base + 1);
             if (auto* linea = qobject_cast<QLineEdit*>(w)) {
                 linea->setMinimumWidth(c->Name() == "txtTitulo" ? 150 : 64);

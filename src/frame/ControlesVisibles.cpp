@@ -12,6 +12,14 @@ constexpr Kind kFr = Kind::Frame;
 constexpr Kind kBt = Kind::CommandButton;
 constexpr Kind kPc = Kind::PictureBox;
 constexpr Kind kRt = Kind::RichTextBox;
+constexpr Kind kTx = Kind::TextBox;
+constexpr Kind kCb = Kind::ComboBox;
+constexpr Kind kCk = Kind::CheckBox;
+constexpr Kind kOp = Kind::OptionButton;
+constexpr Kind kNd = Kind::UCNumDiam;
+constexpr Kind kNs = Kind::UCNumDiamSep;
+constexpr Kind kZp = Kind::UCZapatas;
+constexpr Kind kPf = Kind::UCPerfil;
 
 struct VisiblesDeForm {
     std::string_view form;
@@ -156,10 +164,314 @@ VisiblesDeForm Suelo()
     }};
 }
 
+// Fields that mean the same in every element form that has them: one caption for all. A name
+// ending in "*" stands for every field whose name begins with what comes before it.
+const std::vector<ControlVisible>& Comunes()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "txtTitulo", -1, "Título"},
+        {kCb, "CmbPlanta", -1, "Planta"},
+        {kCb, "CmbHorm", -1, "Hormigón"},
+        {kCb, "CmbAcero", -1, "Acero"},
+        {kCb, "cmbControl", -1, "Control"},
+        {kCb, "CmbRecub", -1, "Recubrimiento (mm)"},
+        {kCb, "CmbAmbGral", -1, "Ambiente general"},
+        {kCb, "CmbAmbEspec", -1, "Ambiente específico"},
+        {kCb, "cmbPart", -1, "Partición"},
+        {kCb, "CmTramos", -1, "Tramos de carga"},
+        {kCb, "cmbClase", -1, "Clase de sección"},
+        {kCb, "CmbCaso", -1, "Caso de carga"},
+        {kTx, "TxtRes*", -1, "Resultado"},
+    };
+    return filas;
+}
+
+// The spans editor and the supports of a beam of one span, as every beam form draws it.
+const std::vector<ControlVisible>& Viga()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxCota", -1, "Longitudes (m)"},
+        {kTx, "TxCota", 0, "Voladizo (m)"},
+        {kTx, "TxCota", 1, "Luz total (m)"},
+        {kTx, "TxCota", 2, "Tramo 1 (m)"},
+        {kTx, "TxCota", 3, "Tramo 2 (m)"},
+        {kTx, "TxCota", 4, "Voladizo (m)"},
+        {kTx, "TxtQ", -1, "Cargas"},
+        {kTx, "TxtQ", 0, "Carga puntual P"},
+        {kTx, "TxtQ", 4, "Carga puntual P"},
+        {kTx, "TxtQ", 5, "Carga puntual P"},
+        {kTx, "TxtQ", 6, "Carga puntual P"},
+        {kTx, "TxtQ", 1, "Carga repartida q"},
+        {kTx, "TxtQ", 2, "Carga repartida q"},
+        {kTx, "TxtQ", 3, "Carga repartida q"},
+        {kTx, "TxtPil", -1, "Canto pilar (cm)"},
+        {kTx, "TxtPil", 0, "Canto pilar izquierdo (cm)"},
+        {kTx, "TxtPil", 1, "Canto pilar derecho (cm)"},
+        {kCk, "ChPilIzq", -1, "Pilar inferior izquierdo"},
+        {kCk, "ChPilDer", -1, "Pilar inferior derecho"},
+        {kCk, "ChVigIzq", -1, "Voladizo o viga continua a la izquierda"},
+        {kCk, "ChVigDer", -1, "Voladizo o viga continua a la derecha"},
+    };
+    return filas;
+}
+
+// A concrete beam: its section, its bars by position and its results.
+const std::vector<ControlVisible>& VigaHormigon()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxCota", 5, "Luz forjado izquierdo (m)"},
+        {kTx, "TxCota", 6, "Luz forjado derecho (m)"},
+        {kTx, "TextDviga", 0, "Ancho b (cm)"},
+        {kTx, "TextDviga", 1, "Canto h (cm)"},
+        {kNd, "UCArVig", -1, "Barras"},
+        {kCk, "ChArV", -1, "Capa adicional de barras"},
+        {kTx, "TxLv", -1, "Longitud capa adicional (m)"},
+        {kNs, "UCArCer", -1, "Cercos (2 ramas)"},
+        {kCk, "ChTrans", -1, "Estudiar flexión transversal"},
+        {kTx, "txtCort", -1, "Compresión oblicua"},
+        {kTx, "TxtRes1", -1, "Flector"},
+        {kTx, "TxtRes2", -1, "Corte"},
+        {kTx, "TxtRes3", -1, "Flecha act."},
+        {kTx, "TxtRes4", -1, "Fisuración"},
+    };
+    return filas;
+}
+
+// A column of a storey: the spans around it by its position in plan and its loads.
+const std::vector<ControlVisible>& Pilar()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kOp, "OpPosPil", 0, "esquina"},
+        {kOp, "OpPosPil", 1, "borde"},
+        {kOp, "OpPosPil", 2, "centro"},
+        {kTx, "LePil", -1, "Luces (m)"},
+        {kTx, "LePil", 12, "Altura de planta (m)"},
+        {kCk, "ChPilSup", -1, "Pilar continúa encima"},
+        {kTx, "TxtQ", -1, "Cargas"},
+        {kTx, "TxtQ", 0, "Momento Mx"},
+        {kTx, "TxtQ", 1, "Momento My"},
+        {kTx, "TxtQ", 2, "Carga axil N"},
+        {kTx, "TxtQ", 3, "Cerramiento (sin mayorar)"},
+    };
+    return filas;
+}
+
+const std::vector<ControlVisible>& PilarHormigon()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kCb, "CmbForma", -1, "Forma"},
+        {kCb, "cmbesviada", -1, "Coeficientes de esviaje"},
+        {kTx, "txtTramo", -1, "Dimensión (cm)"},
+        {kNd, "UCArmPilar", -1, "Armadura"},
+        {kNs, "UCCercos", -1, "Cercos pilar"},
+        {kNs, "UCNumDiamSep1", -1, "Cercos pilar circular"},
+        {kCk, "ChPil", -1, "Horquilla"},
+        {kTx, "txtW", -1, "Cuantía excesiva"},
+        {kTx, "TxtRes1", -1, "Global"},
+        {kTx, "TxtRes2", -1, "Axil"},
+        {kTx, "TxtRes3", -1, "Cercos"},
+    };
+    return filas;
+}
+
+const std::vector<ControlVisible>& Acero()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kPf, "UCPerfil1", -1, "Perfil"},
+    };
+    return filas;
+}
+
+const std::vector<ControlVisible>& PilarAcero()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kPf, "UCViga", -1, "Perfil de viga"},
+        {kTx, "txtCurvaX", -1, "Curva de pandeo X"},
+        {kTx, "txtCurvaY", -1, "Curva de pandeo Y"},
+        {kTx, "TxtBetaX", -1, "Coef. de pandeo β X"},
+        {kTx, "TxtBetaY", -1, "Coef. de pandeo β Y"},
+        {kCk, "ChkArriostradaX", -1, "Arriostrado en X"},
+        {kCk, "ChkArriostradaY", -1, "Arriostrado en Y"},
+        {kCk, "ChRotS", -1, "Rótula en cabeza"},
+        {kCk, "ChRotI", -1, "Rótula en pie"},
+    };
+    return filas;
+}
+
+// What every footing has: its reinforcement and the ground's admissible pressure, which may
+// be that of the general data.
+const std::vector<ControlVisible>& Zapata()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kZp, "UCArmZap", -1, "Armadura"},
+        {kCk, "Check1", -1, "Idem general"},
+        {kTx, "TxtQ", -1, "Cargas"},
+    };
+    return filas;
+}
+
+// The strip footing under a wall, alone or under a basement wall.
+const std::vector<ControlVisible>& ZapataBajoMuro()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxCotaAncho", -1, "Ancho de la zapata (cm)"},
+        {kTx, "TxCotaAlto", -1, "Canto de la zapata (cm)"},
+    };
+    return filas;
+}
+
+VisiblesDeForm ZapataCorrida()
+{
+    return {"frmZapCorr", {
+        {kOp, "OpTipoMuro", 0, "Fábrica"},
+        {kOp, "OpTipoMuro", 1, "Hormigón"},
+        {kTx, "TxCotaMuro", -1, "Ancho del muro (cm)"},
+        {kTx, "TxtQ", 0, "Carga axil N"},
+        {kTx, "TxtQ", 1, "Momento M"},
+        {kTx, "TxtQ", 2, "Tensión admisible terreno"},
+    }};
+}
+
+// The isolated footing: three loads (N, Mx, My) for each of its load pictures.
+VisiblesDeForm ZapataAislada()
+{
+    return {"frmZap", {
+        {kOp, "OpPosPil", -1, "Posición del pilar #"},
+        {kTx, "TxDimZap", -1, "Dimensión zapata (cm)"},
+        {kTx, "TxPil", -1, "Lado del pilar (cm)"},
+        {kTx, "TxDist", -1, "Distancia al pilar contiguo (cm)"},
+        {kTx, "TxCota", -1, "Cota (cm)"},
+        {kCk, "chkRiostra", -1, "Riostra no centradora"},
+        {kNd, "UCViga", -1, "Armadura viga centradora"},
+        {kNs, "UCCercosViga", -1, "Cercos viga centradora"},
+        {kTx, "TxtQ", 0, "N"}, {kTx, "TxtQ", 1, "Mx"}, {kTx, "TxtQ", 2, "My"},
+        {kTx, "TxtQ", 3, "N"}, {kTx, "TxtQ", 4, "Mx"}, {kTx, "TxtQ", 5, "My"},
+        {kTx, "TxtQ", 6, "N"}, {kTx, "TxtQ", 7, "Mx"}, {kTx, "TxtQ", 8, "My"},
+        {kTx, "TxtQ", 9, "N"}, {kTx, "TxtQ", 10, "Mx"}, {kTx, "TxtQ", 11, "My"},
+        {kTx, "TxtQ", 12, "Tensión admisible terreno"},
+    }};
+}
+
+// The beam of a regular portal frame: the frame around it, besides the beam's own fields.
+VisiblesDeForm VigaRegular()
+{
+    return {"frmVigRegHorm", {
+        {kCb, "cmbTrPort", -1, "Nº tramos pórtico"},
+        {kCb, "cmbTrForj", -1, "Nº tramos forjado"},
+        {kTx, "txtCotHz", -1, "Luces en planta (m)"},
+        {kTx, "txtCotVert", -1, "Luces transversales (m)"},
+        {kOp, "optViga", -1, "Viga #"},
+        {kTx, "TxRedistr", -1, "Redistribución plástica (%)"},
+        {kTx, "TxtQ", 7, "Cerramiento perimetral (sin mayorar)"},
+        {kTx, "txtMom", -1, "Momento"},
+        {kTx, "txtCor", -1, "Cortante"},
+        {kTx, "txtGiro", -1, "Giro"},
+    }};
+}
+
+// The basement wall: its backfill, the friction against it, the loads at its top and the
+// storeys it spans; its footing is that of a strip footing.
+VisiblesDeForm MuroSotano()
+{
+    return {"frmMuroH", {
+        {kCb, "CmbTerr", -1, "Material relleno"},
+        {kTx, "TxtDensidad", -1, "Densidad relleno (kg/m3)"},
+        {kTx, "TxtAngulo", -1, "Ángulo rozamiento interno (º)"},
+        {kOp, "OptDelta", 0, "Definir..."},
+        {kOp, "OptDelta", 1, "Bajo"},
+        {kOp, "OptDelta", 2, "Alto"},
+        {kTx, "Text1", -1, "Rozamiento muro-relleno (º)"},
+        {kCk, "Check2", -1, "Admitir plastificación de muro"},
+        {kCk, "CheckFM", -1, "Forjado coronación"},
+        {kTx, "TxtQ", 0, "Carga coronación N"},
+        {kTx, "TxtQ", 1, "Momento coronación M"},
+        {kTx, "TxtQ", 2, "Tensión admisible terreno"},
+        {kTx, "TxtQ", 3, "Carga coronación"},
+        {kCb, "CmbSot", -1, "Sótanos"},
+        {kTx, "TxCotaMuro", -1, "Cotas del muro (cm)"},
+        {kTx, "TxVuelo", -1, "Vuelo de la zapata (cm)"},
+        {kZp, "UCArmMuro", -1, "Armadura del muro"},
+    }};
+}
+
+VisiblesDeForm ZapataCombinada()
+{
+    return {"frmZapComb", {
+        {kTx, "TxCota", -1, "Cota (cm)"},
+        {kTx, "TxtQ", 4, "Tensión admisible terreno"},
+    }};
+}
+
+// The rows of each form: its own, after those of the families it belongs to, so that a form's
+// own row has the last word.
 const std::vector<VisiblesDeForm>& Tabla()
 {
-    static const std::vector<VisiblesDeForm> tabla = {Acciones(), Suelo()};
+    static const std::vector<VisiblesDeForm> tabla = [] {
+        using Familia = const std::vector<ControlVisible>& (*)();
+        const std::vector<std::pair<VisiblesDeForm, std::vector<Familia>>> formas = {
+            {Acciones(), {}},
+            {Suelo(), {}},
+            {{"frmVigHorm", {}}, {Viga, VigaHormigon}},
+            {VigaRegular(), {Viga, VigaHormigon}},
+            {{"frmVigMet", {}}, {Viga, Acero}},
+            {{"frmPilHorm", {}}, {Pilar, PilarHormigon}},
+            {{"frmPilMet", {}}, {Pilar, Acero, PilarAcero}},
+            {ZapataCorrida(), {Zapata, ZapataBajoMuro}},
+            {ZapataAislada(), {Zapata}},
+            {ZapataCombinada(), {Zapata}},
+            {MuroSotano(), {Zapata, ZapataBajoMuro}},
+        };
+        std::vector<VisiblesDeForm> out;
+        for (const auto& [propias, familias] : formas) {
+            VisiblesDeForm f{propias.form, {}};
+            for (Familia familia : familias)
+                f.controles.insert(f.controles.end(), familia().begin(), familia().end());
+            f.controles.insert(f.controles.end(), propias.controles.begin(), propias.controles.end());
+            out.push_back(std::move(f));
+        }
+        return out;
+    }();
     return tabla;
+}
+
+bool EmpiezaPorNoCase(std::string_view s, std::string_view prefijo)
+{
+    return s.size() >= prefijo.size() && SameNameNoCase(s.substr(0, prefijo.size()), prefijo);
+}
+
+// The controls of the form that a row names: the control itself; for a row of index -1, every
+// member of the array of that name; for a name ending in "*", every control beginning so.
+std::vector<Control*> Destinos(const Form& form, const ControlVisible& v)
+{
+    if (!v.nombre.empty() && v.nombre.back() == '*') {
+        std::vector<Control*> out;
+        for (Control* c : form.Controls())
+            if (EmpiezaPorNoCase(c->Name(), v.nombre.substr(0, v.nombre.size() - 1)))
+                out.push_back(c);
+        return out;
+    }
+    if (Control* c = form.Find(v.nombre, v.index))
+        return {c};
+    return v.index < 0 ? form.Members(v.nombre) : std::vector<Control*>{};
+}
+
+void AplicaFila(Form& form, const ControlVisible& v, bool crea)
+{
+    std::vector<Control*> destinos = Destinos(form, v);
+    // The fields of the record are the record's: a stored kind is never made here.
+    if (destinos.empty() && crea && !IsStored(v.kind))
+        destinos.push_back(&form.Add(v.kind, std::string(v.nombre), v.index));
+    for (Control* c : destinos) {
+        if (c->kind() != v.kind)
+            continue;
+        // "#" in the caption of an array's row stands for each member's index.
+        std::string caption(v.caption);
+        if (const size_t at = caption.find('#'); at != std::string::npos && c->Index() >= 0)
+            caption.replace(at, 1, std::to_string(c->Index()));
+        c->SetCaption(caption);
+        if (!v.tooltip.empty())
+            c->SetToolTipText(v.tooltip);
+    }
 }
 
 }  // namespace
@@ -173,20 +485,14 @@ const std::vector<ControlVisible>& ControlesVisibles(std::string_view form)
     return ninguno;
 }
 
+const std::vector<ControlVisible>& ControlesComunes() { return Comunes(); }
+
 void AnadeControlesVisibles(Form& form)
 {
-    for (const ControlVisible& v : ControlesVisibles(form.Name())) {
-        Control* c = form.Find(v.nombre, v.index);
-        if (!c) {
-            // The fields of the record are the record's: a stored kind is never made here.
-            if (IsStored(v.kind))
-                continue;
-            c = &form.Add(v.kind, std::string(v.nombre), v.index);
-        }
-        c->SetCaption(v.caption);
-        if (!v.tooltip.empty())
-            c->SetToolTipText(v.tooltip);
-    }
+    for (const ControlVisible& v : Comunes())
+        AplicaFila(form, v, false);
+    for (const ControlVisible& v : ControlesVisibles(form.Name()))
+        AplicaFila(form, v, true);
 }
 
 }  // namespace vardena

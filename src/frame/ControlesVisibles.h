@@ -20,12 +20,21 @@ struct ControlVisible {
     std::string_view tooltip = {};
 };
 
-// The shown controls of a form by its name; empty for a form that has none in the table.
+// The rows of a form by its name, those of the families it belongs to first; empty for a form
+// that has none in the table. A row of index -1 that names a control array gives its caption
+// to every member, with "#" in it standing for the member's index; a row of the member
+// itself, coming later, has the last word.
 const std::vector<ControlVisible>& ControlesVisibles(std::string_view form);
 
-// Adds to the form, by its name, the shown controls of its table. A control that the form
-// already has (a shared frame of every element window) takes the row's caption instead, and
-// its tool tip when the row gives one. Running it twice adds nothing.
+// The captions of the fields that mean the same in every form that has them (the title, the
+// level, the materials, the results). A name ending in "*" stands for every field whose name
+// begins with the rest. These rows never create a control.
+const std::vector<ControlVisible>& ControlesComunes();
+
+// Gives the form the captions of the common rows, then adds, by its name, the shown controls
+// of its table. A control that the form already has (a shared frame of every element window,
+// a field of the record) takes the row's caption instead, and its tool tip when the row gives
+// one; only a control of the row's kind does. Running it twice adds nothing.
 void AnadeControlesVisibles(Form& form);
 
 }  // namespace vardena

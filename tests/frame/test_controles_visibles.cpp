@@ -1,5 +1,6 @@
 // The shown controls of the actions and the soil: present with their Spanish captions, never a
-// field of the record, and translated by the shipped language packs.
+// field of the record, and translated by the shipped language packs. The captions of the stored
+// fields of the element forms: given by the common rows and by each form's, never stored.
 
 #include <gtest/gtest.h>
 
@@ -16,6 +17,8 @@ namespace vardena::test {
 namespace {
 
 const char* const kForms[] = {"frmAccio", "frmSuelo"};
+const char* const kElementos[] = {"frmVigHorm", "frmVigRegHorm", "frmVigMet", "frmPilHorm", "frmPilMet",
+                                  "frmZapCorr",  "frmZap",        "frmZapComb", "frmMuroH"};
 
 struct Rotulo {
     const char* form;
@@ -70,10 +73,12 @@ TEST(ControlesVisibles, FreshFormsCarryTheirCaptions)
 TEST(ControlesVisibles, RowsAreUniqueAndStoredRowsNameExistingFields)
 {
     ObraDePrueba obra;
-    for (const char* name : kForms) {
+    std::vector<const char*> names(std::begin(kForms), std::end(kForms));
+    names.insert(names.end(), std::begin(kElementos), std::end(kElementos));
+    for (const char* name : names) {
         SCOPED_TRACE(name);
         const std::vector<ControlVisible>& rows = ControlesVisibles(name);
-        EXPECT_GT(rows.size(), 10u);
+        EXPECT_GE(rows.size(), 5u);
         const TablaForm* tabla = TablaCampos(name);
         ASSERT_NE(tabla, nullptr);
         std::set<std::pair<std::string, int>> seen;
@@ -87,12 +92,106 @@ TEST(ControlesVisibles, RowsAreUniqueAndStoredRowsNameExistingFields)
             for (const CampoDef& campo : tabla->campos)
                 field = field || SameNameNoCase(campo.nombre, v.nombre);
             EXPECT_EQ(field, IsStored(v.kind)) << v.nombre;
+            // A row of index -1 may stand for the members of an array.
             const Control* c = form->Find(v.nombre, v.index);
+            if (!c && v.index < 0 && !form->Members(v.nombre).empty())
+                c = form->Members(v.nombre).front();
             ASSERT_NE(c, nullptr) << v.nombre;
             EXPECT_EQ(c->kind(), v.kind) << v.nombre;
         }
     }
-    EXPECT_TRUE(ControlesVisibles("frmZap").empty());
+    EXPECT_TRUE(ControlesVisibles("frmPilotes").empty());
+}
+
+// Every common row names a field of that kind in at least one form's record: a misspelt name
+// would caption nothing and go unnoticed.
+TEST(ControlesVisibles, CommonRowsNameFieldsOfSomeForm)
+{
+    for (const ControlVisible& v : ControlesComunes()) {
+        SCOPED_TRACE(std::string(v.nombre));
+        EXPECT_FALSE(v.caption.empty());
+        std::string_view nombre = v.nombre;
+        const bool prefijo = !nombre.empty() && nombre.back() == '*';
+        if (prefijo)
+            nombre.remove_suffix(1);
+        bool found = false;
+        for (const TablaForm& tabla : TablasCampos())
+            for (const CampoDef& campo : tabla.campos) {
+                const std::string_view n = prefijo ? campo.nombre.substr(0, std::min(nombre.size(), campo.nombre.size()))
+                                                   : campo.nombre;
+                found = found || (SameNameNoCase(n, nombre) && TipoDeLetra(campo.tipo) == v.kind);
+            }
+        EXPECT_TRUE(found);
+    }
+}
+
+TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
+{
+    const std::vector<Rotulo> rows = {
+        // The common rows, the same in every form.
+        {"frmVigHorm", "txtTitulo", -1, Kind::TextBox, "Título"},
+        {"frmZapCorr", "txtTitulo", -1, Kind::TextBox, "Título"},
+        {"frmPilMet", "CmbPlanta", -1, Kind::ComboBox, "Planta"},
+        {"frmZapCorr", "CmbHorm", -1, Kind::ComboBox, "Hormigón"},
+        {"frmPilMet", "CmbAcero", -1, Kind::ComboBox, "Acero"},
+        {"frmZap", "cmbControl", -1, Kind::ComboBox, "Control"},
+        {"frmVigHorm", "CmbRecub", -1, Kind::ComboBox, "Recubrimiento (mm)"},
+        {"frmVigHorm", "CmbAmbGral", -1, Kind::ComboBox, "Ambiente general"},
+        {"frmMuroH", "txtTitulo", -1, Kind::TextBox, "Título"},
+        // "TxtRes*" reaches every result, arrays included, unless the form names it.
+        {"frmPilMet", "TxtRes2", -1, Kind::TextBox, "Resultado"},
+        {"frmZapCorr", "TxtRes1", 1, Kind::TextBox, "Resultado"},
+        {"frmVigHorm", "TxtRes1", -1, Kind::TextBox, "Flector"},
+        {"frmPilHorm", "TxtRes3", -1, Kind::TextBox, "Cercos"},
+        // A row of index -1 covers every member; a member's own row has the last word.
+        {"frmVigHorm", "UCArVig", 7, Kind::UCNumDiam, "Barras"},
+        {"frmVigHorm", "TxCota", 1, Kind::TextBox, "Luz total (m)"},
+        {"frmVigHorm", "TxCota", 5, Kind::TextBox, "Luz forjado izquierdo (m)"},
+        {"frmVigRegHorm", "TxCota", 6, Kind::TextBox, "Luz forjado derecho (m)"},
+        {"frmVigHorm", "TxtQ", 2, Kind::TextBox, "Carga repartida q"},
+        {"frmVigHorm", "TxtQ", 6, Kind::TextBox, "Carga puntual P"},
+        {"frmVigHorm", "ChTrans", -1, Kind::CheckBox, "Estudiar flexión transversal"},
+        {"frmZapCorr", "TxCotaMuro", -1, Kind::TextBox, "Ancho del muro (cm)"},
+        {"frmZapCorr", "OpTipoMuro", 1, Kind::OptionButton, "Hormigón"},
+        {"frmZapCorr", "TxtQ", 2, Kind::TextBox, "Tensión admisible terreno"},
+        {"frmZapComb", "UCArmZap", 3, Kind::UCZapatas, "Armadura"},
+        {"frmZap", "TxtQ", 10, Kind::TextBox, "Mx"},
+        // "#" stands for the member's index, so that options of one array read apart.
+        {"frmZap", "OpPosPil", 2, Kind::OptionButton, "Posición del pilar 2"},
+        {"frmVigRegHorm", "optViga", 8, Kind::OptionButton, "Viga 8"},
+        {"frmMuroH", "TxCotaAncho", -1, Kind::TextBox, "Ancho de la zapata (cm)"},
+        {"frmMuroH", "UCArmMuro", 15, Kind::UCZapatas, "Armadura del muro"},
+        {"frmPilHorm", "OpPosPil", 0, Kind::OptionButton, "esquina"},
+        {"frmPilMet", "LePil", 12, Kind::TextBox, "Altura de planta (m)"},
+        {"frmPilMet", "LePil", 3, Kind::TextBox, "Luces (m)"},
+        {"frmPilMet", "UCPerfil1", -1, Kind::UCPerfil, "Perfil"},
+        {"frmPilMet", "ChkArriostradaY", -1, Kind::CheckBox, "Arriostrado en Y"},
+        // A form without rows of its own takes the common ones only.
+        {"frmVigMade", "TxtRes3", -1, Kind::TextBox, "Resultado"},
+    };
+    ObraDePrueba obra;
+    for (const Rotulo& r : rows) {
+        SCOPED_TRACE(std::string(r.form) + "." + r.nombre + "(" + std::to_string(r.index) + ")");
+        std::unique_ptr<Form> form = CreaForm(obra.d(), r.form);
+        ASSERT_NE(form, nullptr);
+        const Control* c = form->Find(r.nombre, r.index);
+        ASSERT_NE(c, nullptr);
+        EXPECT_EQ(c->kind(), r.kind);
+        EXPECT_EQ(c->Caption(), r.caption);
+    }
+}
+
+// The forms whose every field reads as words, not as its name.
+TEST(ControlesVisibles, EveryStoredFieldHasACaption)
+{
+    ObraDePrueba obra;
+    for (const char* name : {"frmVigHorm", "frmZapCorr", "frmPilMet"}) {
+        SCOPED_TRACE(name);
+        std::unique_ptr<Form> form = CreaForm(obra.d(), name);
+        ASSERT_NE(form, nullptr);
+        for (const Control* c : form->StoredControls())
+            EXPECT_FALSE(c->Caption().empty()) << c->Label();
+    }
 }
 
 TEST(ControlesVisibles, NothingStoredIsAddedAndASecondRunAddsNothing)
@@ -128,6 +227,28 @@ TEST(ControlesVisibles, RecordIsThatOfTheFieldsAlone)
         }
         EXPECT_GT(form->Controls().size(), fields.Controls().size());
         EXPECT_EQ(NamedText(*form), NamedText(fields));
+        EXPECT_EQ(static_cast<int>(form->StoredControls().size()), NumeroControles(*TablaCampos(name)));
+    }
+}
+
+// The captions of the fields never reach a record: with every caption wiped, both record formats
+// read the same, and the form holds exactly the fields of its table.
+TEST(ControlesVisibles, CaptionsNeverEnterTheRecord)
+{
+    ObraDePrueba obra;
+    for (const char* name : kElementos) {
+        SCOPED_TRACE(name);
+        std::unique_ptr<Form> form = CreaForm(obra.d(), name);
+        ASSERT_NE(form, nullptr);
+        const std::string named = NamedText(*form), positional = PositionalText(*form);
+        int captioned = 0;
+        for (Control* c : form->StoredControls()) {
+            captioned += c->Caption().empty() ? 0 : 1;
+            c->SetCaption("");
+        }
+        EXPECT_GT(captioned, 5);
+        EXPECT_EQ(NamedText(*form), named);
+        EXPECT_EQ(PositionalText(*form), positional);
         EXPECT_EQ(static_cast<int>(form->StoredControls().size()), NumeroControles(*TablaCampos(name)));
     }
 }

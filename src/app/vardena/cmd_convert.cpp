@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 #include <sstream>
+#include <unistd.h>
 
 #include "Commands.h"
 #include "works/Catalogo.h"
@@ -88,10 +89,17 @@ int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, std
     std::vector<std::string> list2;
     ConversionOptions co;
     co.dryRun = opt.dryRun;
-    co.progress = [](int done, const std::string& what) { std::cerr << "\rvardena: " << done << " records  " << what << "\033[K" << std::flush; };
+    // On a terminal the count stays on one line; in a log, a line per record.
+    const bool terminal = ::isatty(STDERR_FILENO) != 0;
+    co.progress = [terminal](int done, const std::string& what) {
+        if (terminal)
+            std::cerr << "\rvardena: " << done << " records  " << what << "\033[K" << std::flush;
+        else
+            std::cerr << "vardena: " << done << " records  " << what << "\n";
+    };
     log = Convierte(app.decl, list2, co);
-    if (log.records > 0)
-        std::cerr << "\n";
+    if (terminal && log.records > 0)
+        std::cerr << "\r\033[K";
     if (opt.json)
         json = JsonLog(log, opt.dryRun, {});
     else

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <unistd.h>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -79,6 +80,9 @@ class CliUi : public Ui {
 public:
     int MsgBox(std::string_view prompt, int style, std::string_view title) override
     {
+        // A progress line on a terminal is cleared first.
+        if (::isatty(STDERR_FILENO))
+            std::cerr << "\r\033[K";
         std::cerr << "vardena: " << (title.empty() ? "" : std::string(title) + ": ") << prompt << "\n";
         return (style & 7) == mb::OkOnly ? mb::Ok : mb::Yes;
     }
