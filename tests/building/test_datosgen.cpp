@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "building/DatosGen.h"
+#include "building/SistUnid.h"
 #include "building/Unidades.h"
 #include "support/TestSupport.h"
 #include "works/DatosFile.h"
@@ -244,6 +245,37 @@ TEST(Units, LoadFieldsAreRescaledOnlyToSI)
     CambiaUnidades(tech, 1);
     EXPECT_EQ(tech.At("TxtQ", 0).Text(), "4");
     EXPECT_DOUBLE_EQ(LeeQ(tech, 0), 4);
+}
+
+}  // namespace
+}  // namespace vardena
+
+namespace vardena {
+namespace {
+
+// The information dialog of the unit systems: its fixed table and the system shown.
+TEST(SistUnidForm, FixedTableAndTheSystemOfTheWork)
+{
+    const auto& rows = Equivalencias();
+    ASSERT_EQ(rows.size(), 7u);
+    EXPECT_STREQ(rows[0][0], "Fuerzas");
+    EXPECT_STREQ(rows[0][3], "9,81");
+    EXPECT_STREQ(rows[0][4], "0,102");
+    // The last row keeps "0,981", though a tenth of it would be the true ratio.
+    EXPECT_STREQ(rows[6][1], "kp/cm2");
+    EXPECT_STREQ(rows[6][3], "0,981");
+    EXPECT_STREQ(rows[6][4], "10,194");
+    for (int16_t units : {1, 2}) {
+        test::TestApp app;
+        app.decl.Unidades = units;
+        SistUnid form(app.decl);
+        form.Form_Load();
+        EXPECT_EQ(form.At("lbST", 0).Visible(), units == 1);
+        EXPECT_EQ(form.At("lbSI", 1).Visible(), units != 1);
+        EXPECT_EQ(form.Caption(), "Unidades");
+        form.At("Aceptar").Click();
+        EXPECT_TRUE(form.Descargado());
+    }
 }
 
 }  // namespace
