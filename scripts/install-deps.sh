@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(cmake ninja-build g++ clang libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libjpeg-dev
           libcurl4-openssl-dev qt6-base-dev)
 if [[ "${1:-}" == "--tests" ]]; then
-  packages+=(libreoffice-writer-nogui xvfb)
+  packages+=(libreoffice-writer-nogui)
 fi
 missing=()
 for p in "${packages[@]}"; do

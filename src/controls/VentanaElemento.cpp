@@ -35,12 +35,17 @@ bool EmpiezaPor(const std::string& s, std::string_view prefijo)
 
 bool EsRefuerzo(Kind k) { return k == Kind::UCNumDiam || k == Kind::UCNumDiamSep || k == Kind::UCZapatas || k == Kind::UCMallazo; }
 
-// The heading of a control array: the caption that its row of index -1 gives, else its name.
+// The heading of a control array: the caption that its row of index -1 gives, without the
+// place of the member's number, else its name.
 std::string TituloDeArray(const Form& form, const std::string& nombre)
 {
     for (const ControlVisible& v : ControlesVisibles(form.Name()))
-        if (v.index < 0 && SameNameNoCase(v.nombre, nombre))
-            return std::string(v.caption);
+        if (v.index < 0 && SameNameNoCase(v.nombre, nombre)) {
+            std::string titulo(v.caption);
+            if (const size_t at = titulo.find(" #"); at != std::string::npos)
+                titulo.erase(at, 2);
+            return titulo;
+        }
     return nombre;
 }
 

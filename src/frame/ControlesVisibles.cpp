@@ -219,13 +219,14 @@ const std::vector<ControlVisible>& Viga()
 const std::vector<ControlVisible>& VigaHormigon()
 {
     static const std::vector<ControlVisible> filas = {
+        {kTx, "TextDviga", -1, "Sección"},
         {kTx, "TxCota", 5, "Luz forjado izquierdo (m)"},
         {kTx, "TxCota", 6, "Luz forjado derecho (m)"},
         {kTx, "TextDviga", 0, "Ancho b (cm)"},
         {kTx, "TextDviga", 1, "Canto h (cm)"},
         {kNd, "UCArVig", -1, "Barras"},
-        {kCk, "ChArV", -1, "Capa adicional de barras"},
-        {kTx, "TxLv", -1, "Longitud capa adicional (m)"},
+        {kCk, "ChArV", -1, "Capa adicional #"},
+        {kTx, "TxLv", -1, "Longitud capa # (m)"},
         {kNs, "UCArCer", -1, "Cercos (2 ramas)"},
         {kCk, "ChTrans", -1, "Estudiar flexión transversal"},
         {kTx, "txtCort", -1, "Compresión oblicua"},
@@ -304,7 +305,7 @@ const std::vector<ControlVisible>& Zapata()
 {
     static const std::vector<ControlVisible> filas = {
         {kZp, "UCArmZap", -1, "Armadura"},
-        {kCk, "Check1", -1, "Idem general"},
+        {kCk, "Check1", -1, "Tensión admisible idem general"},
         {kTx, "TxtQ", -1, "Cargas"},
     };
     return filas;
@@ -323,6 +324,7 @@ const std::vector<ControlVisible>& ZapataBajoMuro()
 VisiblesDeForm ZapataCorrida()
 {
     return {"frmZapCorr", {
+        {kOp, "OpTipoMuro", -1, "Tipo de muro"},
         {kOp, "OpTipoMuro", 0, "Fábrica"},
         {kOp, "OpTipoMuro", 1, "Hormigón"},
         {kTx, "TxCotaMuro", -1, "Ancho del muro (cm)"},
