@@ -209,7 +209,8 @@ QWidget* VentanaElemento::CreaDatos()
     auto* zona = new QScrollArea();
     zona->setWidgetResizable(true);
     zona->setFrameShape(QFrame::NoFrame);
-    zona->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // A form wider than the window scrolls sideways rather than cutting its last column.
+    zona->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     auto* contenido = new QWidget();
     auto* columnas = new QHBoxLayout(contenido);
     columnas->setContentsMargins(0, 0, 0, 0);

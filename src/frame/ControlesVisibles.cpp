@@ -182,6 +182,19 @@ const std::vector<ControlVisible>& Comunes()
         {kCb, "cmbClase", -1, "Clase de sección"},
         {kCb, "CmbCaso", -1, "Caso de carga"},
         {kTx, "TxtRes*", -1, "Resultado"},
+        {kPf, "UCPerfil1", -1, "Perfil"},
+        {kCb, "cmbAceroPerfil", -1, "Acero del perfil"},
+        {kCb, "CmbResis", -1, "Clase resistente"},
+        {kCb, "CmbServi", -1, "Clase de servicio"},
+        {kCb, "CmbCargaComp", -1, "Factor de carga compartida"},
+        {kCb, "CmbUso", -1, "Uso"},
+        {kTx, "txtEF", -1, "Resistencia al fuego (min)"},
+        {kTx, "txtResF1", -1, "Resultado fuego 1"},
+        {kTx, "txtResF2", -1, "Resultado fuego 2"},
+        {kCb, "CmbForma", -1, "Forma"},
+        {kCb, "cmbesviada", -1, "Coeficientes de esviaje"},
+        {kCb, "CmbCatEjec", -1, "Categoría de ejecución"},
+        {kTx, "TxCoefMin", -1, "Coef. parcial seguridad γM"},
     };
     return filas;
 }
@@ -215,21 +228,29 @@ const std::vector<ControlVisible>& Viga()
     return filas;
 }
 
-// A concrete beam: its section, its bars by position and its results.
-const std::vector<ControlVisible>& VigaHormigon()
+// A reinforced concrete section of a beam or a lintel: its size and its bars.
+const std::vector<ControlVisible>& ArmadoViga()
 {
     static const std::vector<ControlVisible> filas = {
         {kTx, "TextDviga", -1, "Sección"},
-        {kTx, "TxCota", 5, "Luz forjado izquierdo (m)"},
-        {kTx, "TxCota", 6, "Luz forjado derecho (m)"},
         {kTx, "TextDviga", 0, "Ancho b (cm)"},
         {kTx, "TextDviga", 1, "Canto h (cm)"},
         {kNd, "UCArVig", -1, "Barras"},
         {kCk, "ChArV", -1, "Capa adicional #"},
-        {kTx, "TxLv", -1, "Longitud capa # (m)"},
         {kNs, "UCArCer", -1, "Cercos (2 ramas)"},
-        {kCk, "ChTrans", -1, "Estudiar flexión transversal"},
         {kTx, "txtCort", -1, "Compresión oblicua"},
+    };
+    return filas;
+}
+
+// A concrete beam: the slabs beside it, its bar lengths and its results.
+const std::vector<ControlVisible>& VigaHormigon()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxCota", 5, "Luz forjado izquierdo (m)"},
+        {kTx, "TxCota", 6, "Luz forjado derecho (m)"},
+        {kTx, "TxLv", -1, "Longitud capa # (m)"},
+        {kCk, "ChTrans", -1, "Estudiar flexión transversal"},
         {kTx, "TxtRes1", -1, "Flector"},
         {kTx, "TxtRes2", -1, "Corte"},
         {kTx, "TxtRes3", -1, "Flecha act."},
@@ -260,8 +281,6 @@ const std::vector<ControlVisible>& Pilar()
 const std::vector<ControlVisible>& PilarHormigon()
 {
     static const std::vector<ControlVisible> filas = {
-        {kCb, "CmbForma", -1, "Forma"},
-        {kCb, "cmbesviada", -1, "Coeficientes de esviaje"},
         {kTx, "txtTramo", -1, "Dimensión (cm)"},
         {kNd, "UCArmPilar", -1, "Armadura"},
         {kNs, "UCCercos", -1, "Cercos pilar"},
@@ -271,14 +290,6 @@ const std::vector<ControlVisible>& PilarHormigon()
         {kTx, "TxtRes1", -1, "Global"},
         {kTx, "TxtRes2", -1, "Axil"},
         {kTx, "TxtRes3", -1, "Cercos"},
-    };
-    return filas;
-}
-
-const std::vector<ControlVisible>& Acero()
-{
-    static const std::vector<ControlVisible> filas = {
-        {kPf, "UCPerfil1", -1, "Perfil"},
     };
     return filas;
 }
@@ -404,6 +415,80 @@ VisiblesDeForm ZapataCombinada()
     }};
 }
 
+// What the masonry forms share: the masonry's strength and density, and the lengths of the
+// element.
+const std::vector<ControlVisible>& Fabrica()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxtCota", -1, "Cotas"},
+        {kTx, "TxtQ", -1, "Cargas"},
+    };
+    return filas;
+}
+
+VisiblesDeForm Muros()
+{
+    return {"frmMuros", {
+        {kTx, "TxtQ", 0, "Res. fábrica"},
+        {kTx, "TxtDensidad", -1, "Densidad (kg/m3)"},
+        {kOp, "OptArr", -1, "Arriostramiento"},
+        {kOp, "OptArr", 0, "Cabeza, base y 2 bordes verticales"},
+        {kOp, "OptArr", 1, "Cabeza, base y 1 borde vertical"},
+        {kOp, "OptArr", 2, "Sólo cabeza y base"},
+        {kOp, "OpTramo", -1, "Tramo #"},
+        {kCk, "CheckI", -1, "Hueco inferior"},
+        {kCk, "CheckS", -1, "Hueco superior"},
+        {kTx, "TxtRes1", -1, "Centro"},
+        {kTx, "TxtRes2", -1, "Extremo"},
+    }};
+}
+
+// The enclosure panel: how each of its four edges is held, and how it is checked.
+VisiblesDeForm Cerramiento()
+{
+    return {"frmMCerr", {
+        {kTx, "TxtQ", 0, "Res. flexión paral."},
+        {kTx, "TxtQ", 1, "Res. flexión perp."},
+        {kTx, "TxtCota", 0, "Longitud (m)"},
+        {kTx, "TxtCota", 1, "Altura (m)"},
+        {kTx, "TxtCota", 2, "Espesor (m)"},
+        {kOp, "OptCab", -1, "Cabeza"},
+        {kOp, "OptCab", 0, "Libre"},
+        {kOp, "OptCab", 1, "Empotrado"},
+        {kOp, "OptCab", 2, "Apoyado"},
+        {kOp, "OptBase", -1, "Base"},
+        {kOp, "OptBase", 0, "Apoyado"},
+        {kOp, "OptBase", 1, "Empotrado"},
+        {kOp, "OptIzq", -1, "Borde izquierdo"},
+        {kOp, "OptIzq", 0, "Empotrado"},
+        {kOp, "OptIzq", 1, "Apoyado"},
+        {kOp, "OptDer", -1, "Borde derecho"},
+        {kOp, "OptDer", 0, "Apoyado"},
+        {kOp, "OptDer", 1, "Empotrado"},
+        {kOp, "OptCalc", -1, "Método de cálculo"},
+        {kOp, "OptCalc", 0, "Efecto arco"},
+        {kOp, "OptCalc", 1, "Flexión como placa"},
+        {kTx, "TxCatEjec", -1, "Categoría de ejecución"},
+        {kCb, "CmbFMort", -1, "Mortero"},
+        {kCb, "CmbFMat", -1, "Material de las piezas"},
+    }};
+}
+
+// The lintel, of concrete, steel, timber or masonry, in a wall.
+VisiblesDeForm Dintel()
+{
+    return {"frmMDint", {
+        {kCb, "CmbDintel", -1, "Tipo de dintel"},
+        {kTx, "TxtQ", 0, "Res. fábrica"},
+        {kTx, "TxtDensidad", -1, "Densidad (kg/m3)"},
+        {kTx, "txtEspesor", -1, "Espesor del muro (cm)"},
+        {kCk, "chkForjado", -1, "Forjado"},
+        {kTx, "TxtRes1", 0, "Flector"},
+        {kTx, "TxtRes1", 1, "Cortante"},
+        {kTx, "TxtRes1", 2, "Fábrica"},
+    }};
+}
+
 // The rows of each form: its own, after those of the families it belongs to, so that a form's
 // own row has the last word.
 const std::vector<VisiblesDeForm>& Tabla()
@@ -413,11 +498,14 @@ const std::vector<VisiblesDeForm>& Tabla()
         const std::vector<std::pair<VisiblesDeForm, std::vector<Familia>>> formas = {
             {Acciones(), {}},
             {Suelo(), {}},
-            {{"frmVigHorm", {}}, {Viga, VigaHormigon}},
-            {VigaRegular(), {Viga, VigaHormigon}},
-            {{"frmVigMet", {}}, {Viga, Acero}},
+            {{"frmVigHorm", {}}, {Viga, ArmadoViga, VigaHormigon}},
+            {VigaRegular(), {Viga, ArmadoViga, VigaHormigon}},
+            {{"frmVigMet", {}}, {Viga}},
             {{"frmPilHorm", {}}, {Pilar, PilarHormigon}},
-            {{"frmPilMet", {}}, {Pilar, Acero, PilarAcero}},
+            {{"frmPilMet", {}}, {Pilar, PilarAcero}},
+            {Muros(), {Fabrica}},
+            {Cerramiento(), {Fabrica}},
+            {Dintel(), {Fabrica, ArmadoViga}},
             {ZapataCorrida(), {Zapata, ZapataBajoMuro}},
             {ZapataAislada(), {Zapata}},
             {ZapataCombinada(), {Zapata}},

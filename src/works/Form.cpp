@@ -35,42 +35,32 @@ constexpr std::array<KindInfo, 15> kKinds = {{
 bool EqNoCase(std::string_view a, std::string_view b) { return SameNameNoCase(a, b); }
 
 // Design-time defaults of the composite controls.
+struct CompositeDefault {
+    Kind kind;
+    std::vector<std::pair<const char*, const char*>> values;
+};
+
+const std::vector<CompositeDefault>& CompositeDefaultTable()
+{
+    static const std::vector<CompositeDefault> table = {
+        {Kind::UCNumDiam, {{"NumBarras", "2"}, {"Diametro", "12"}}},
+        {Kind::UCNumDiamSep, {{"NumBarras", "2"}, {"Diametro", "12"}, {"Separacion", "15"}}},
+        {Kind::UCZapatas,
+         {{"NumBarras", "8"}, {"Diametro", "12"}, {"Separacion", "15"}, {"AnchoZap", "150"}, {"Por_metro", "False"}}},
+        {Kind::UCMallazo, {{"Diametro", "5"}, {"Separacion", "15"}}},
+        {Kind::UCPerfil,
+         {{"Num", "1"}, {"Perfil", "IPE"}, {"Tamano", "100"}, {"Ancho", "8"}, {"Canto", "12"}, {"Area", "150"},
+          {"Ix", "1500"}, {"Iy", "1500"}}},
+    };
+    return table;
+}
+
 void CompositeDefaults(Control& c)
 {
-    switch (c.kind()) {
-    case Kind::UCNumDiam:
-        c.RawSet("NumBarras", "2");
-        c.RawSet("Diametro", "12");
-        break;
-    case Kind::UCNumDiamSep:
-        c.RawSet("NumBarras", "2");
-        c.RawSet("Diametro", "12");
-        c.RawSet("Separacion", "15");
-        break;
-    case Kind::UCZapatas:
-        c.RawSet("NumBarras", "8");
-        c.RawSet("Diametro", "12");
-        c.RawSet("Separacion", "15");
-        c.RawSet("AnchoZap", "150");
-        c.RawSet("Por_metro", "False");
-        break;
-    case Kind::UCMallazo:
-        c.RawSet("Diametro", "5");
-        c.RawSet("Separacion", "15");
-        break;
-    case Kind::UCPerfil:
-        c.RawSet("Num", "1");
-        c.RawSet("Perfil", "IPE");
-        c.RawSet("Tamano", "100");
-        c.RawSet("Ancho", "8");
-        c.RawSet("Canto", "12");
-        c.RawSet("Area", "150");
-        c.RawSet("Ix", "1500");
-        c.RawSet("Iy", "1500");
-        break;
-    default:
-        break;
-    }
+    for (const auto& row : CompositeDefaultTable())
+        if (row.kind == c.kind())
+            for (const auto& [prop, value] : row.values)
+                c.RawSet(prop, value);
 }
 
 bool ParseBool(std::string_view v, bool& out)

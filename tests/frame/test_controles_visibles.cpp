@@ -18,7 +18,8 @@ namespace {
 
 const char* const kForms[] = {"frmAccio", "frmSuelo"};
 const char* const kElementos[] = {"frmVigHorm", "frmVigRegHorm", "frmVigMet", "frmPilHorm", "frmPilMet",
-                                  "frmZapCorr",  "frmZap",        "frmZapComb", "frmMuroH"};
+                                  "frmZapCorr",  "frmZap",        "frmZapComb", "frmMuroH",  "frmMuros",
+                                  "frmMCerr",    "frmMDint"};
 
 struct Rotulo {
     const char* form;
@@ -166,6 +167,12 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmPilMet", "LePil", 3, Kind::TextBox, "Luces (m)"},
         {"frmPilMet", "UCPerfil1", -1, Kind::UCPerfil, "Perfil"},
         {"frmPilMet", "ChkArriostradaY", -1, Kind::CheckBox, "Arriostrado en Y"},
+        {"frmMCerr", "OptIzq", 1, Kind::OptionButton, "Apoyado"},
+        {"frmMDint", "TxtRes1", 2, Kind::TextBox, "Fábrica"},
+        {"frmMDint", "TextDviga", 1, Kind::TextBox, "Canto h (cm)"},
+        {"frmMuros", "TxCoefMin", -1, Kind::TextBox, "Coef. parcial seguridad γM"},
+        {"frmMuros", "CmbCatEjec", -1, Kind::ComboBox, "Categoría de ejecución"},
+        {"frmMuros", "TxtCota", 22, Kind::TextBox, "Cotas"},
         // A form without rows of its own takes the common ones only.
         {"frmVigMade", "TxtRes3", -1, Kind::TextBox, "Resultado"},
     };
@@ -185,7 +192,7 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
 TEST(ControlesVisibles, EveryStoredFieldHasACaption)
 {
     ObraDePrueba obra;
-    for (const char* name : {"frmVigHorm", "frmZapCorr", "frmPilMet"}) {
+    for (const char* name : kElementos) {
         SCOPED_TRACE(name);
         std::unique_ptr<Form> form = CreaForm(obra.d(), name);
         ASSERT_NE(form, nullptr);
