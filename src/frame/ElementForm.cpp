@@ -150,6 +150,9 @@ void ElementForm::Form_Load()
             At("txtTitulo").SetText(ciclo_.tituloFijo);
             std::string titulo(ciclo_.tituloFijo);
             LeeForm(*this, titulo, &registroFijoEncontrado_);
+            // The version label tells the version of the record shown, as after a click.
+            if (registroFijoEncontrado_)
+                PoneVersion();
         }
         CargaPropia();
     });
