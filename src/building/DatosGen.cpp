@@ -20,24 +20,15 @@ constexpr const char* kLoadsS[] = {"TxtPProS", "TxtConcS", "TxtSobrS", "TxtSTabS
 constexpr int kHeadingOn = 0x70050B;
 constexpr int kHeadingOff = 0xC08070;
 
-std::array<float, kMaxFloors + 1>* LoadArrayP(Declaraciones& d, int k)
+// The four load tables of the floors and of the basements, in the order of kLoadsP / kLoadsS.
+std::array<std::array<float, kMaxFloors + 1>*, 4> LoadArraysP(Declaraciones& d)
 {
-    switch (k) {
-    case 0: return &d.GenPProP;
-    case 1: return &d.GenConcP;
-    case 2: return &d.GenSobrP;
-    default: return &d.GenSTabP;
-    }
+    return {&d.GenPProP, &d.GenConcP, &d.GenSobrP, &d.GenSTabP};
 }
 
-std::array<float, kMaxBasements + 1>* LoadArrayS(Declaraciones& d, int k)
+std::array<std::array<float, kMaxBasements + 1>*, 4> LoadArraysS(Declaraciones& d)
 {
-    switch (k) {
-    case 0: return &d.GenPProS;
-    case 1: return &d.GenConcS;
-    case 2: return &d.GenSobrS;
-    default: return &d.GenSTabS;
-    }
+    return {&d.GenPProS, &d.GenConcS, &d.GenSobrS, &d.GenSTabS};
 }
 
 std::vector<std::string> Numbers(int from, int to)
@@ -297,13 +288,13 @@ void DatosGen::pasaMatPan()
     At("cmbGeom", 0).SetListIndex(n - 1);
     for (int i = 0; i <= n; ++i) {
         for (int k = 0; k < 4; ++k)
-            At(kLoadsP[k], i).SetText(FormatoNum(Redondea((*LoadArrayP(d, k))[i], 3) * 1000));
+            At(kLoadsP[k], i).SetText(FormatoNum(Redondea((*LoadArraysP(d)[k])[i], 3) * 1000));
         At("TxtCUsoP", i).SetText(d.GenCUsoP[i]);
     }
     At("cmbGeom", 1).SetListIndex(m);
     for (int i = 1; i <= m; ++i) {
         for (int k = 0; k < 4; ++k)
-            At(kLoadsS[k], i).SetText(FormatoNum(Redondea((*LoadArrayS(d, k))[i], 3) * 1000));
+            At(kLoadsS[k], i).SetText(FormatoNum(Redondea((*LoadArraysS(d)[k])[i], 3) * 1000));
         At("TxtCUsoS", i).SetText(d.GenCUsoS[i]);
     }
     for (int i = 1; i <= 6; ++i) {
@@ -352,12 +343,12 @@ void DatosGen::pasaPanMat()
     auto load = [&](const Control& c) { return static_cast<float>(ValComaCopy(c.Text()) / panel / 1000); };
     for (int i = 0; i <= n; ++i) {
         for (int k = 0; k < 4; ++k)
-            (*LoadArrayP(d, k))[i] = load(At(kLoadsP[k], i));
+            (*LoadArraysP(d)[k])[i] = load(At(kLoadsP[k], i));
         d.GenCUsoP[i] = At("TxtCUsoP", i).Text();
     }
     for (int i = 1; i <= m; ++i) {
         for (int k = 0; k < 4; ++k)
-            (*LoadArrayS(d, k))[i] = load(At(kLoadsS[k], i));
+            (*LoadArraysS(d)[k])[i] = load(At(kLoadsS[k], i));
         d.GenCUsoS[i] = At("TxtCUsoS", i).Text();
     }
     for (int i = 1; i <= 6; ++i) {

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "works/Catalogo.h"
+#include "works/FileIo.h"
 
 namespace vardena {
 namespace {
@@ -17,15 +18,6 @@ constexpr Letra kLetras[] = {
     {'Z', Kind::UCZapatas}, {'M', Kind::UCMallazo},    {'P', Kind::UCPerfil},
 };
 
-bool MismoNombre(std::string_view a, std::string_view b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (size_t i = 0; i < a.size(); ++i)
-        if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i])))
-            return false;
-    return true;
-}
 
 }  // namespace
 
@@ -72,7 +64,7 @@ const std::vector<TablaForm>& TablasCampos()
         // The catalogue's order first, as the contents list shows the elements.
         for (const auto& fila : Catalogo())
             for (auto& t : sueltas)
-                if (t && MismoNombre(t->nombre, fila.form)) {
+                if (t && SameNameNoCase(t->nombre, fila.form)) {
                     out.push_back(*t);
                     t = nullptr;
                 }

@@ -270,7 +270,7 @@ bool ElementForm::ConfirmaReemplazo()
 {
     Declaraciones& d = decl();
     const std::string resultados = RutaResultados(*this, At("txtTitulo").Text());
-    if (!FindNoCase(CarpetaDe(resultados), ArchivoDe(resultados)))
+    if (!ExistingNoCase(resultados))
         return true;
     return d.ui.MsgBox(d.Msg(10) + d.Msg(11) + d.Msg(12), mb::YesNo | mb::Exclamation, d.Msg(13)) != mb::No;
 }

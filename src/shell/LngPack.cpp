@@ -254,16 +254,7 @@ bool PaqueteCompleto(const std::string& dirPrograma, const std::string& language
 
 std::vector<std::string> CarpetasDeIdiomas(const std::string& dirPrograma)
 {
-    std::vector<std::string> names;
-    std::error_code ec;
-    for (std::filesystem::directory_iterator it(ConBarra(dirPrograma) + "lng", ec), end; !ec && it != end;
-         it.increment(ec)) {
-        std::error_code kindError;
-        if (it->is_directory(kindError))
-            names.push_back(it->path().filename().string());
-    }
-    SortNoCase(names);
-    return names;
+    return SubFolders(ConBarra(dirPrograma) + "lng");
 }
 
 }  // namespace

@@ -194,16 +194,9 @@ void NombreDat(Declaraciones& d, std::string_view name, std::string_view mode)
 std::vector<std::string> ListaObras(const std::string& folder)
 {
     std::vector<std::string> out;
-    std::error_code ec;
-    std::filesystem::directory_iterator it(folder, ec), end;
-    for (; !ec && it != end; it.increment(ec)) {
-        std::error_code fe;
-        if (!it->is_directory(fe))
-            continue;
-        if (FindNoCase(it->path().string(), "DESCR.~CE"))
-            out.push_back(it->path().filename().string());
-    }
-    SortNoCase(out);
+    for (const auto& name : SubFolders(folder))
+        if (FindNoCase(ConBarra(folder) + name, "DESCR.~CE"))
+            out.push_back(name);
     return out;
 }
 

@@ -76,8 +76,6 @@ std::string FormatOf(const std::optional<std::string>& path)
     }
 }
 
-std::optional<std::string> ExistingNoCase(const std::string& path) { return FindNoCase(CarpetaDe(path), ArchivoDe(path)); }
-
 struct RunState {
     Declaraciones& d;
     ConversionLog& log;

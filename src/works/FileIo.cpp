@@ -198,6 +198,26 @@ void SortNoCase(std::vector<std::string>& names)
     });
 }
 
+std::optional<std::string> ExistingNoCase(const std::string& path)
+{
+    const fs::path p(path);
+    return FindNoCase(p.parent_path().string(), p.filename().string());
+}
+
+std::vector<std::string> SubFolders(const std::string& folder)
+{
+    std::vector<std::string> names;
+    std::error_code ec;
+    fs::directory_iterator it(folder, ec), end;
+    for (; !ec && it != end; it.increment(ec)) {
+        std::error_code fe;
+        if (it->is_directory(fe))
+            names.push_back(it->path().filename().string());
+    }
+    SortNoCase(names);
+    return names;
+}
+
 std::vector<std::string> FilesEndingWith(const std::string& folder, std::string_view suffix)
 {
     std::vector<std::string> names;

@@ -55,6 +55,11 @@ bool SameNameNoCase(std::string_view a, std::string_view b);
 // Finds `name` inside `folder` without regard to case; nullopt when there is none.
 std::optional<std::string> FindNoCase(const std::string& folder, std::string_view name);
 
+// A file of a work by its exact path or, failing that, by its name in any case.
+std::optional<std::string> ExistingNoCase(const std::string& path);
+// The names of the sub-folders of `folder`, sorted by SortNoCase; none when it cannot be read.
+std::vector<std::string> SubFolders(const std::string& folder);
+
 // Sorts names without regard to case, the order in which version 3's file system listed them.
 void SortNoCase(std::vector<std::string>& names);
 // The names of the files (not folders) of `folder` whose name ends with `suffix`, compared

@@ -417,16 +417,7 @@ void Menu::Dire_Change()
         list3.Clear();
         At("Lbvers").SetCaption("");
         At("UCBconvertir").SetEnabled(false);
-        std::vector<std::string> carpetas;
-        std::error_code ec;
-        std::filesystem::directory_iterator it(d.DirObras.empty() ? std::string(".") : d.DirObras, ec), end;
-        for (; !ec && it != end; it.increment(ec)) {
-            std::error_code fe;
-            if (it->is_directory(fe))
-                carpetas.push_back(it->path().filename().string());
-        }
-        SortNoCase(carpetas);
-        list3.SetItems(carpetas);
+        list3.SetItems(SubFolders(d.DirObras.empty() ? std::string(".") : d.DirObras));
         At("List1").SetItems(ListaObras(d.DirObras));
         At("Dire").SetToolTipText(d.Msg(136));
         At("tachado").SetVisible(true);
@@ -530,18 +521,7 @@ void Menu::DescripcionRtf()
         Informe informe(d);
         informe.Linea("Cabe");
         informe.Linea("Tit1", d.Msg(178));
-        std::vector<std::string> lineas;
-        size_t inicio = 0;
-        while (inicio < texto.size()) {
-            size_t fin = texto.find('\n', inicio);
-            if (fin == std::string::npos)
-                fin = texto.size();
-            std::string linea = texto.substr(inicio, fin - inicio);
-            if (!linea.empty() && linea.back() == '\r')
-                linea.pop_back();
-            lineas.push_back(linea);
-            inicio = fin + 1;
-        }
+        const std::vector<std::string> lineas = SplitLines(texto);
         for (size_t i = 0; i < lineas.size(); ++i)
             informe.Linea(i == 0 ? "Tit2" : "Tex1", lineas[i]);
         informe.Linea("FinD");

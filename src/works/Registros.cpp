@@ -267,20 +267,13 @@ std::string RutaResultados(Form& form, std::string_view title)
     return ConBarra(form.decl().CarpetaObra) + std::string(title) + ".l" + CodigoDeForm(form.decl(), form.Name());
 }
 
-namespace {
-// A file of the work by its exact path or, failing that, by its name in any case.
-std::optional<std::string> Existing(const std::string& path)
-{
-    return FindNoCase(CarpetaDe(path), ArchivoDe(path));
-}
-}  // namespace
 
 std::string GuardaForm(Form& form)
 {
     Declaraciones& d = form.decl();
     const std::string path = RutaRegistro(form, form.At("txtTitulo").Text());
     // An existing record in another case is replaced under its own name.
-    const std::string target = Existing(path).value_or(path);
+    const std::string target = ExistingNoCase(path).value_or(path);
     FormGuardaFile2(form, target);
     if (d.DoEvents)
         d.DoEvents();
@@ -291,7 +284,7 @@ std::string GuardaForm(Form& form)
 
 ReadOutcome LeeForm(Form& form, std::string& title, bool* found)
 {
-    auto path = Existing(RutaRegistro(form, title));
+    auto path = ExistingNoCase(RutaRegistro(form, title));
     if (found)
         *found = path.has_value();
     if (!path) {
@@ -308,7 +301,7 @@ void CargaResultados(Form& form, std::string_view title)
     Control* rtb = form.Find("RichTextBox1");
     if (!rtb)
         return;
-    auto path = Existing(RutaResultados(form, title));
+    auto path = ExistingNoCase(RutaResultados(form, title));
     // The rich text keeps the file's own bytes; the RTF reader decodes them.
     rtb->SetText(path ? ReadFileBytes(*path) : std::string());
 }
@@ -318,7 +311,7 @@ void BorraRegistro(Form& form, std::string_view title)
     if (title.empty())
         return;
     Declaraciones& d = form.decl();
-    auto results = Existing(RutaResultados(form, title));
+    auto results = ExistingNoCase(RutaResultados(form, title));
     if (!results) {
         d.ui.MsgBox(d.Msg(172), mb::Critical, d.Msg(165));
         Halt("the results file of \"" + std::string(title) + "\" is missing: " + RutaResultados(form, title));
@@ -328,7 +321,7 @@ void BorraRegistro(Form& form, std::string_view title)
         return;
     if (!d.platform.recycleBin || !d.platform.recycleBin->APapelera(*results))
         throw FileError(*results, "could not be moved to the recycle bin; nothing was deleted");
-    if (auto record = Existing(RutaRegistro(form, title)))
+    if (auto record = ExistingNoCase(RutaRegistro(form, title)))
         if (!d.platform.recycleBin->APapelera(*record))
             throw FileError(*record, "could not be moved to the recycle bin");
     if (Control* list = form.Find("List1"))

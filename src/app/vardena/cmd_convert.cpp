@@ -151,10 +151,7 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
         std::string json;
         // Each work starts from a fresh state, as when it is selected in the main window.
         Aplicacion fresh(app.decl.ui, std::make_unique<MemorySettings>(), app.decl.DirPrograma);
-        fresh.decl.Mensajes = app.decl.Mensajes;
-        fresh.platform.recycleBin = std::move(app.platform.recycleBin);
-        int rc = ConvertOne(fresh, w, opt, json);
-        app.platform.recycleBin = std::move(fresh.platform.recycleBin);
+        const int rc = ConvertOne(fresh, w, opt, json);
         if (!json.empty())
             jsons.push_back(json);
         if (rc == kFailure || worst == kOk)

@@ -127,7 +127,7 @@ std::string NombreTipoUnidad(TipoUnidad t)
 std::map<std::string, std::string> LeeOsRelease(const std::string& text)
 {
     std::map<std::string, std::string> out;
-    for (const auto& raw : LineasDe(text)) {
+    for (const auto& raw : SplitLines(text)) {
         const std::string line = Trim(raw);
         const auto eq = line.find('=');
         if (line.empty() || line[0] == '#' || eq == std::string::npos)
@@ -151,7 +151,7 @@ std::string ProcesadorDeCpuinfo(const std::string& text, int* count)
 {
     std::map<std::string, std::string> first;
     int n = 0;
-    for (const auto& line : LineasDe(text)) {
+    for (const auto& line : SplitLines(text)) {
         const auto colon = line.find(':');
         if (colon == std::string::npos)
             continue;
@@ -175,7 +175,7 @@ std::string ProcesadorDeCpuinfo(const std::string& text, int* count)
 MemoriaLinux MemoriaDeMeminfo(const std::string& text)
 {
     std::map<std::string, unsigned long long> kb;
-    for (const auto& line : LineasDe(text)) {
+    for (const auto& line : SplitLines(text)) {
         const auto colon = line.find(':');
         if (colon != std::string::npos)
             kb[line.substr(0, colon)] = std::strtoull(line.c_str() + colon + 1, nullptr, 10);
@@ -207,7 +207,7 @@ std::vector<Montaje> LeeMontajes(const std::string& text)
         return out;
     };
     std::vector<Montaje> out;
-    for (const auto& line : LineasDe(text)) {
+    for (const auto& line : SplitLines(text)) {
         std::istringstream in(line);
         std::string dev, dir, type;
         if (in >> dev >> dir >> type)

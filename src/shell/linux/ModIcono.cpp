@@ -8,7 +8,6 @@
 #include <optional>
 #include <vector>
 
-#include "shell/linux/TextoLinux.h"
 #include "works/FileIo.h"
 
 namespace vardena {
@@ -141,7 +140,7 @@ bool Replace(RecycleBin& bin, const std::string& path, const std::string& bytes,
 // .directory with Icon= set in its [Desktop Entry] group, every other line kept.
 std::string DirectoryText(const std::string& old, const std::string& iconPath)
 {
-    std::vector<std::string> lines = LineasDe(old);
+    std::vector<std::string> lines = SplitLines(old);
     const std::string entry = "Icon=" + iconPath;
     std::optional<size_t> group, icon;
     size_t groupEnd = lines.size();

@@ -209,7 +209,7 @@ std::optional<TrashInfo> ParseTrashInfo(const std::string& text)
 {
     TrashInfo ti;
     bool inGroup = false, any = false;
-    for (const std::string& line : LineasDe(text)) {
+    for (const std::string& line : SplitLines(text)) {
         if (!line.empty() && line.front() == '[') {
             inGroup = line == "[Trash Info]";
         } else if (inGroup && line.rfind("Path=", 0) == 0) {

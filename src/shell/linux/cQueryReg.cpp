@@ -319,7 +319,7 @@ std::optional<ValorReg> ParseValue(const std::string& line, std::string& why)
 // Reads the text form; on a line it does not understand it stops with `why` set ("line N: ...").
 bool Parse(const std::string& text, std::vector<Clave>& keys, std::string& why)
 {
-    const std::vector<std::string> lines = LineasDe(text);
+    const std::vector<std::string> lines = SplitLines(text);
     bool header = false;
     Clave* current = nullptr;
     for (size_t i = 0; i < lines.size(); ++i) {
@@ -389,7 +389,7 @@ std::string UserDir(const std::string& variable, const std::string& fallback)
     }
     if (bytes) {
         const std::string key = variable + "=\"";
-        for (const std::string& line : LineasDe(*bytes)) {
+        for (const std::string& line : SplitLines(*bytes)) {
             if (line.rfind(key, 0) != 0 || line.size() < key.size() + 1 || line.back() != '"')
                 continue;
             std::string value = line.substr(key.size(), line.size() - key.size() - 1);
