@@ -335,14 +335,7 @@ TEST_F(UCPerfilTest, UserActionsRaiseChangeOnce)
 
 TEST_F(UCPerfilTest, BadRowsAndBadPropertiesAreErrors)
 {
-    auto numero = [](auto fn) {
-        try {
-            fn();
-        } catch (const PropertyError& e) {
-            return e.number();
-        }
-        return 0;
-    };
+    const auto numero = [](auto fn) { return test::PropertyErrorNumber(fn); };
     EXPECT_EQ(numero([&] { PerfilEligeFamilia(c, 7); }), 380);
     EXPECT_EQ(numero([&] { PerfilEligeTamano(c, 18); }), 380);
     EXPECT_EQ(numero([&] { PerfilEscribeDato(c, "Num", "2"); }), 438);

@@ -71,14 +71,7 @@ TEST_F(RefuerzoListas, APickPutsTheRowOnTheLabelAndRaisesChangeOnce)
 TEST_F(RefuerzoListas, BadPicksAndBadPropertiesAreErrorsThatChangeNothing)
 {
     Control& c = Nuevo(Kind::UCNumDiamSep, "UCArCer");
-    auto numero = [](auto fn) {
-        try {
-            fn();
-        } catch (const PropertyError& e) {
-            return e.number();
-        }
-        return 0;
-    };
+    const auto numero = [](auto fn) { return test::PropertyErrorNumber(fn); };
     EXPECT_EQ(numero([&] { EligeFilaRefuerzo(c, ListaRefuerzo::Num, 4); }), 380);
     EXPECT_EQ(numero([&] { EligeFilaRefuerzo(c, ListaRefuerzo::Diam, -1); }), 380);
     EXPECT_EQ(numero([&] { EscribeNumBarras(c, "3"); }), 438);

@@ -8,6 +8,7 @@
 
 #include "shell/Platform.h"
 #include "works/Declaraciones.h"
+#include "works/Form.h"
 #include "works/Ui.h"
 
 namespace vardena::test {
@@ -38,6 +39,18 @@ void WriteDiskText(const std::string& path, const std::string& text);
 std::string ReadDiskText(const std::string& path);
 std::string ReadBytes(const std::string& path);
 void WriteBytes(const std::string& path, const std::string& bytes);
+
+// The number of the PropertyError that `fn` throws; 0 when it throws none.
+template <typename Fn>
+int PropertyErrorNumber(Fn fn)
+{
+    try {
+        fn();
+    } catch (const PropertyError& e) {
+        return e.number();
+    }
+    return 0;
+}
 
 // Runs the command-line tool; returns its exit code and fills the outputs.
 int RunCli(const std::string& args, std::string* out = nullptr, std::string* err = nullptr);
