@@ -5,7 +5,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <filesystem>
+#include <unistd.h>
 #include <random>
 
 #include "frame/Formularios.h"
@@ -17,6 +19,7 @@
 #include "works/FileIo.h"
 #include "works/Form.h"
 #include "works/Registros.h"
+#include "ObraGrande.h"
 
 using namespace vardena;
 namespace fs = std::filesystem;
@@ -24,9 +27,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kRecords = 2000;
-// A mix of small and large forms, as a real work holds them.
-const char* kForms[] = {"frmZapCorr", "frmVigHorm", "frmPilHorm", "frmForjRet", "frmMuroH", "frmPilMet", "frmSuelo",
-                        "frmZap"};
 
 struct Quiet : Ui {
     int MsgBox(std::string_view, int style, std::string_view) override { return (style & 7) ? mb::Yes : mb::Ok; }
@@ -57,19 +57,7 @@ const fs::path& Template()
     static const fs::path work = [] {
         fs::path w = Root() / "plantilla";
         fs::create_directories(w);
-        State s;
-        s.decl.CarpetaObra = w.string();
-        WriteFileAtomic((w / "DATOS.~CE").string(), ToDiskText(DatosText(s.decl, 3.01)));
-        WriteFileAtomic((w / "DESCR.~CE").string(), ToDiskText("Obra de medida\n"));
-        for (int i = 0; i < kRecords; ++i) {
-            const char* name = kForms[i % std::size(kForms)];
-            auto f = CargaForm(s.decl, name);
-            const std::string title = "Elemento " + std::to_string(i);
-            f->At("txtTitulo").SetText(title);
-            const std::string code = CodigoDeForm(s.decl, name);
-            FormGuardaFile(*f, (w / (title + ".~" + code)).string());
-            WriteFileAtomic((w / (title + ".l" + code)).string(), "{\\rtf1\\ansi resultados}\r\n");
-        }
+        muestras::EscribeObraGrande(w.string(), kRecords);
         return w;
     }();
     return work;
@@ -94,6 +82,9 @@ void BM_Conversion(benchmark::State& state)
         std::string text;
         DatosFile(s.decl, "DATOS.~CE", "L", text);
         std::vector<std::string> list2;
+        // The setup's own copy reaches the disk first, so that the run's one sync flushes only
+        // what the run wrote.
+        sync();
         state.ResumeTiming();
         ConversionLog log = Convierte(s.decl, list2);
         benchmark::DoNotOptimize(log.records);
@@ -110,6 +101,9 @@ void BM_CopyOfTheSameFiles(benchmark::State& state)
     Template();
     int n = 0;
     for (auto _ : state) {
+        state.PauseTiming();
+        sync();
+        state.ResumeTiming();
         fs::path dest = Root() / ("solo-copia" + std::to_string(n++));
         fs::copy(Template(), dest, fs::copy_options::recursive);
         state.PauseTiming();
@@ -124,10 +118,37 @@ BENCHMARK(BM_CopyOfTheSameFiles)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 }  // namespace
 
+// Prints the conversion's time beside the copy's, and their ratio, after the usual table.
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const auto& r : runs) {
+            const std::string name = r.benchmark_name();
+            if (name.rfind("BM_Conversion", 0) == 0)
+                conversion_ = r.GetAdjustedRealTime();
+            else if (name.rfind("BM_CopyOfTheSameFiles", 0) == 0)
+                copy_ = r.GetAdjustedRealTime();
+        }
+    }
+    void Finalize() override
+    {
+        ConsoleReporter::Finalize();
+        if (conversion_ > 0 && copy_ > 0)
+            std::printf("conversion %.1f ms, copy of the same files %.1f ms, ratio %.2f\n", conversion_, copy_,
+                        conversion_ / copy_);
+    }
+
+private:
+    double conversion_ = 0, copy_ = 0;
+};
+
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
     std::error_code ec;
     fs::remove_all(Root(), ec);

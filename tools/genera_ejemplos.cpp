@@ -2,7 +2,8 @@
 // together hold a record of every code the conversion serves, with a value of its own in every
 // field, as version 3 wrote them (positional records, DATOS.~CE without the fields of 3.5).
 //
-//   vardena-ejemplos DIR     (DIR is emptied of the sample works first)
+//   vardena-ejemplos DIR                  (DIR is emptied of the sample works first)
+//   vardena-ejemplos --grande N DIR       a work of N records in DIR, for measuring
 
 #include <filesystem>
 #include <iostream>
@@ -19,6 +20,7 @@
 #include "works/Form.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
+#include "ObraGrande.h"
 
 using namespace vardena;
 namespace fs = std::filesystem;
@@ -168,8 +170,13 @@ struct Work {
 
 int main(int argc, char** argv)
 {
+    if (argc == 4 && std::string(argv[1]) == "--grande") {
+        fs::create_directories(argv[3]);
+        muestras::EscribeObraGrande(argv[3], std::stoi(argv[2]));
+        return 0;
+    }
     if (argc != 2) {
-        std::cerr << "usage: vardena-ejemplos DIR\n";
+        std::cerr << "usage: vardena-ejemplos DIR | vardena-ejemplos --grande N DIR\n";
         return 2;
     }
     const std::string dir = argv[1];

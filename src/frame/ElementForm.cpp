@@ -211,7 +211,9 @@ void ElementForm::CmdCalcular_Click()
             CompruebaMinimos();
             Comprueba(LeeDatosComprobacion());
         }
-        GuardaForm(*this);
+        // A refused save has told the user why; the version shown stays that of the record read.
+        if (GuardaForm(*this).empty())
+            return;
         if (ciclo_.tituloFijo.empty())
             PoneVersion();
     });

@@ -1,7 +1,10 @@
 #include "works/Conversion.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
+#include <optional>
+#include <random>
 
 #include "building/DatosGen.h"
 #include "frame/Formularios.h"
@@ -13,6 +16,7 @@
 #include "works/Form.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
+#include "works/Transaccion.h"
 #include "works/VentanaError.h"
 
 namespace vardena {
@@ -57,11 +61,20 @@ std::vector<std::string> FolderNames(const std::string& folder)
     std::vector<std::string> names;
     std::error_code ec;
     std::filesystem::directory_iterator it(folder, ec), end;
-    for (; !ec && it != end; it.increment(ec))
-        names.push_back(it->path().filename().string());
+    for (; !ec && it != end; it.increment(ec)) {
+        std::string name = it->path().filename().string();
+        // The program's own lock and temporary files are not part of the work.
+        if (!IsOwnWorkFile(name))
+            names.push_back(std::move(name));
+    }
     SortNoCase(names);
     return names;
 }
+
+// Stops the run where it stands; the staged files are then thrown away.
+struct RunStopped {
+    std::string why;
+};
 
 // "positional", "named" or "" (no file) from a record's first line.
 std::string FormatOf(const std::optional<std::string>& path)
@@ -82,6 +95,16 @@ struct RunState {
     const ConversionOptions& options;
 };
 
+// A record whose title cannot be a file name inside the work stops the run before the save
+// would write outside it.
+void CheckTitle(RunState& s, Form& form, const std::string& record)
+{
+    const std::string title = form.At("txtTitulo").Text();
+    const std::string why = TituloInvalido(s.d, title);
+    if (!why.empty())
+        throw RunStopped{Mensaje(s.d, 1426, {record, title, why})};
+}
+
 void RunRecords(RunState& s, const Dispatch& dispatch)
 {
     Declaraciones& d = s.d;
@@ -100,6 +123,7 @@ void RunRecords(RunState& s, const Dispatch& dispatch)
         ConVentanaError(s.d, "List1_Click", [&] { list1.SetListIndex(j); });
         if (d.DoEvents)
             d.DoEvents();
+        CheckTitle(s, *form, existing.value_or(recordPath));
         std::string written;
         ConVentanaError(s.d, "CmdCalcular_Click", [&] {
             written = RutaRegistro(*form, form->At("txtTitulo").Text());
@@ -129,6 +153,8 @@ void RunRecords(RunState& s, const Dispatch& dispatch)
         ++s.log.records;
         if (s.options.progress)
             s.options.progress(s.log.records, title + ".~" + dispatch.code);
+        if (s.options.cancelled && s.options.cancelled())
+            throw RunStopped{s.d.Msg(1422)};
     }
     form->Form_Unload();
 }
@@ -143,6 +169,9 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
             form.Form_Load();
             form.Aceptar_Click();
         });
+        // The general data's own handler has told the user; the run cannot go on without them.
+        if (!d.UltimoErrorDatos.empty())
+            throw RunStopped{d.UltimoErrorDatos};
         s.log.entries.push_back({Status::GeneralData, path, "DatosGen", ConBarra(d.CarpetaObra) + "DATOS.~CE",
                                  "general data written as version 3.5 (once per .~CE file met)"});
         return;
@@ -151,6 +180,7 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
     ConVentanaError(s.d, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
     if (!form)
         throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
+    CheckTitle(s, *form, path);
     std::string written;
     ConVentanaError(s.d, "CmdCalcular_Click", [&] {
         written = RutaRegistro(*form, form->At("txtTitulo").Text());
@@ -257,6 +287,119 @@ bool SeRecorreEntero(const std::string& code)
     return d && d->records;
 }
 
+std::string RegistroInaceptable(const Declaraciones& d, const std::string& path)
+{
+    std::error_code ec;
+    if (fs::is_directory(path, ec))
+        return Mensaje(d, 1417, {path});
+    std::string bytes;
+    try {
+        bytes = ReadFileBytes(path);
+    } catch (const FileError& e) {
+        return e.what();
+    }
+    if (bytes.empty())
+        return Mensaje(d, 1421, {path});
+    if (bytes.rfind("\xEF\xBB\xBF", 0) == 0)
+        return Mensaje(d, 1418, {path});
+    if (bytes.find('\0') != std::string::npos)
+        return Mensaje(d, 1420, {path});
+    size_t lineStart = 0;
+    for (size_t i = 0; i <= bytes.size(); ++i) {
+        if (i == bytes.size() || bytes[i] == '\r' || bytes[i] == '\n') {
+            if (i - lineStart > kMaxRecordLine)
+                return Mensaje(d, 1419, {path, std::to_string(kMaxRecordLine)});
+            lineStart = i + 1;
+        }
+    }
+    return {};
+}
+
+namespace {
+
+// The files the run will read: every record whose title has a results file, of a code the run
+// serves by records. Each is checked before anything is written, so that a file that cannot
+// be a record refuses the work by name rather than leaving a record of defaults behind.
+std::string Preflight(const Declaraciones& d, const std::vector<std::string>& names)
+{
+    std::map<std::string, bool> seen;
+    for (const auto& name : names) {
+        if (name.size() < 3 || name[name.size() - 3] != '~')
+            continue;
+        const std::string code = name.substr(name.size() - 2);
+        const Dispatch* dispatch = Find(code);
+        if (!dispatch)
+            continue;
+        if (!dispatch->records) {
+            const std::string why = RegistroInaceptable(d, ConBarra(d.CarpetaObra) + name);
+            // The general data and the description have readers of their own; the actions
+            // record is read like any other.
+            if (!why.empty() && code != "CE")
+                return why;
+            continue;
+        }
+        if (seen[code])
+            continue;
+        seen[code] = true;
+        for (const auto& results : FilesEndingWith(d.CarpetaObra, ".l" + code)) {
+            const std::string title = results.substr(0, results.size() - 4);
+            if (auto record = FindNoCase(d.CarpetaObra, title + ".~" + code)) {
+                const std::string why = RegistroInaceptable(d, *record);
+                if (!why.empty())
+                    return why;
+            }
+        }
+    }
+    return {};
+}
+
+std::string NewTag()
+{
+    std::random_device rd;
+    std::mt19937_64 rng(rd());
+    static const char* hex = "0123456789abcdef";
+    std::string tag;
+    for (int i = 0; i < 10; ++i)
+        tag += hex[rng() % 16];
+    return tag;
+}
+
+// The commit order: every record first, the general data last, so that a work whose renames
+// stopped half-way still reads as not converted.
+std::vector<StagingArea::Entry> CommitOrder(std::vector<StagingArea::Entry> entries)
+{
+    std::stable_partition(entries.begin(), entries.end(),
+                          [](const StagingArea::Entry& e) { return !SameNameNoCase(e.target, "DATOS.~CE"); });
+    return entries;
+}
+
+void Walk(RunState& s, const std::vector<std::string>& list2)
+{
+    std::map<std::string, bool> flags;
+    const size_t last = list2.size();
+    for (size_t row = 0; row < last; ++row) {
+        const std::string name = list2[row];
+        if (name.size() < 3 || name[name.size() - 3] != '~')
+            continue;
+        const std::string code = name.substr(name.size() - 2);
+        const Dispatch* dispatch = Find(code);
+        if (!dispatch)
+            continue;
+        if (dispatch->records) {
+            if (flags[code])
+                continue;
+            RunRecords(s, *dispatch);
+            flags[code] = true;
+        } else {
+            RunOnce(s, *dispatch, name);
+        }
+        if (dispatch->list4)
+            s.log.list4.push_back(dispatch->form);
+    }
+}
+
+}  // namespace
+
 ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const ConversionOptions& options)
 {
     ConversionLog log;
@@ -270,32 +413,58 @@ ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const
         log.completed = true;
         return log;
     }
-    std::map<std::string, bool> flags;
-    const size_t last = list2.size();
-    try {
-        for (size_t row = 0; row < last; ++row) {
-            const std::string name = list2[row];
-            if (name.size() < 3 || name[name.size() - 3] != '~')
-                continue;
-            const std::string code = name.substr(name.size() - 2);
-            const Dispatch* dispatch = Find(code);
-            if (!dispatch)
-                continue;
-            if (dispatch->records) {
-                if (flags[code])
-                    continue;
-                RunRecords(s, *dispatch);
-                flags[code] = true;
-            } else {
-                RunOnce(s, *dispatch, name);
-            }
-            if (dispatch->list4)
-                log.list4.push_back(dispatch->form);
-        }
-    } catch (const ProgramHalt& e) {
-        log.error = e.what();
-        log.entries.push_back({Status::Failed, {}, {}, {}, std::string("the run ended here: ") + e.what()});
+    auto stop = [&](ConversionLog::End end, const std::string& sentence) {
+        log.end = end;
+        log.error = sentence;
+        log.entries.push_back({Status::Failed, {}, {}, {}, sentence});
         return log;
+    };
+    // One writer at a time.
+    std::optional<WorkLock> ownLock;
+    if (!options.lock) {
+        try {
+            ownLock = WorkLock::Try(d.CarpetaObra);
+        } catch (const FileError& e) {
+            return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
+        }
+        if (!ownLock)
+            return stop(ConversionLog::End::Busy, Mensaje(d, 1400, {d.CarpetaObra}));
+    }
+    if (const std::string why = Preflight(d, list2); !why.empty())
+        return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, why}));
+
+    Diario diario;
+    diario.tag = NewTag();
+    try {
+        EscribeDiario(d.CarpetaObra, diario);
+    } catch (const FileError& e) {
+        return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
+    }
+    d.UltimoErrorDatos.clear();
+    try {
+        StagingArea area(d.CarpetaObra, diario.tag);
+        Walk(s, list2);
+        // Everything staged reaches the disk before the journal says it may be committed.
+        SyncFileSystem(d.CarpetaObra);
+        diario.fase = Diario::Fase::Commit;
+        diario.entries = CommitOrder(area.entries());
+        EscribeDiario(d.CarpetaObra, diario);
+        area.Release();
+    } catch (const ProgramHalt& e) {
+        BorraDiario(d.CarpetaObra);
+        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
+    } catch (const FileError& e) {
+        BorraDiario(d.CarpetaObra);
+        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
+    } catch (const RunStopped& e) {
+        BorraDiario(d.CarpetaObra);
+        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, e.why}));
+    }
+    try {
+        CommitStaged(d.CarpetaObra, diario.entries);
+        BorraDiario(d.CarpetaObra);
+    } catch (const FileError& e) {
+        return stop(ConversionLog::End::Pending, Mensaje(d, 1425, {d.CarpetaObra, e.what()}));
     }
     // The main window reads the general data again: the version now reads 3.50.
     std::string unused;
@@ -305,19 +474,43 @@ ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const
     return log;
 }
 
-std::string CopiaDeSeguridad(const std::string& workFolder, const std::string& destFolder)
+std::string CopiaDeSeguridad(const Declaraciones& d, const std::string& workFolder, const std::string& destFolder)
 {
-    namespace fs = std::filesystem;
     std::error_code ec;
-    const fs::path src = fs::path(workFolder).lexically_normal();
-    const std::string name = src.filename().empty() ? src.parent_path().filename().string() : src.filename().string();
-    const fs::path dest = fs::path(destFolder) / name;
-    if (fs::exists(dest, ec))
-        throw FileError(dest.string(), "already exists; the backup was not made and nothing was converted");
-    fs::create_directories(destFolder, ec);
-    fs::copy(src, dest, fs::copy_options::recursive, ec);
-    if (ec)
-        throw FileError(dest.string(), "the backup copy failed: " + ec.message());
+    const fs::path src = fs::weakly_canonical(fs::absolute(workFolder), ec);
+    const fs::path dest = fs::weakly_canonical(fs::absolute(destFolder), ec);
+    auto refuse = [&](const std::string& why) { return FileError(dest.string(), Mensaje(d, 1414, {why})); };
+    // A copy inside the work would copy itself until names grow too long.
+    const auto [srcEnd, destAt] = std::mismatch(src.begin(), src.end(), dest.begin(), dest.end());
+    if (srcEnd == src.end())
+        throw refuse(Mensaje(d, 1415, {dest.string()}));
+    if (fs::exists(dest, ec) || fs::is_symlink(dest, ec))
+        throw refuse(Mensaje(d, 1416, {dest.string()}));
+    fs::create_directories(dest.parent_path(), ec);
+    bool created = false;
+    try {
+        if (!fs::create_directory(dest, ec) || ec)
+            throw FileError(dest.string(), ec.message());
+        created = true;
+        for (fs::directory_iterator it(src, ec), end; it != end; it.increment(ec)) {
+            if (ec)
+                throw FileError(src.string(), ec.message());
+            const std::string name = it->path().filename().string();
+            // The program's own lock and temporary files are not part of the work.
+            if (IsOwnWorkFile(name))
+                continue;
+            fs::copy(it->path(), dest / name, fs::copy_options::recursive, ec);
+            if (ec)
+                throw FileError((dest / name).string(), ec.message());
+        }
+        if (ec)
+            throw FileError(src.string(), ec.message());
+        SyncFileSystem(dest.string());
+    } catch (const FileError& e) {
+        if (created)
+            fs::remove_all(dest, ec);
+        throw refuse(e.what());
+    }
     return dest.string();
 }
 

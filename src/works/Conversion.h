@@ -36,15 +36,40 @@ struct ConversionLog {
     std::vector<ConversionEntry> entries;
     std::vector<std::string> list4;   // forms in the order they finished
     bool completed = false;
-    std::string error;                // why the run ended early
+    // Why the run did not complete, one sentence in the user's language naming the file and
+    // saying what became of the work.
+    std::string error;
+    // How a run that did not complete ended.
+    enum class End {
+        None,        // completed, or a dry run
+        Busy,        // another program was writing the work: nothing was touched
+        Refused,     // a file was refused before anything was written: the work is as before
+        RolledBack,  // the run stopped and everything staged was thrown away: the work is as before
+        Pending,     // every file was written but the renames stopped half-way: the next opening
+                     // of the work finishes them
+    };
+    End end = End::None;
     int records = 0;                  // records passed through a form
+    std::vector<std::string> unreadGeneralData;  // lines of DATOS.~CE that could not be read
 };
 
 struct ConversionOptions {
     bool dryRun = false;
     // Called once per record with the count so far and the record's name.
     std::function<void(int done, const std::string& what)> progress;
+    // Asked between records; true stops the run, which then throws away what it staged.
+    std::function<bool()> cancelled;
+    // The writer's lock of the work, when the caller holds it already; otherwise the run takes it.
+    const class WorkLock* lock = nullptr;
 };
+
+// The longest line a record of version 3 can hold; a longer line marks a file that is not one.
+inline constexpr size_t kMaxRecordLine = 65536;
+
+// The first reason why a file the run would read cannot be a record of version 3 (a folder
+// named like a record, an empty file, a UTF-8 byte-order mark, a NUL byte, an over-long line),
+// as a phrase in the user's language that names the file; "" when there is none.
+std::string RegistroInaceptable(const Declaraciones& d, const std::string& path);
 
 // The codes the run serves and their forms; "" for a code outside the dispatch.
 std::string FormDeCodigo(const std::string& code);
@@ -55,7 +80,9 @@ bool SeRecorreEntero(const std::string& code);  // records kind: the whole List1
 // loaded or written: the log says what the run would do.
 ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const ConversionOptions& options = {});
 
-// Copies the whole work folder into `destFolder`/<work name>; throws FileError.
-std::string CopiaDeSeguridad(const std::string& workFolder, const std::string& destFolder);
+// Copies the whole work folder to `destFolder`, which must not exist yet and must lie outside
+// the work; a copy that fails half-way is removed. Throws FileError with a sentence in the
+// user's language.
+std::string CopiaDeSeguridad(const Declaraciones& d, const std::string& workFolder, const std::string& destFolder);
 
 }  // namespace vardena

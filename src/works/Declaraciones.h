@@ -63,6 +63,12 @@ struct Declaraciones {
     int16_t ObraNueva = kFalse;
     // How the last record read was taken: 0 none, 1 positional, 2 named, 3 refused.
     int16_t UltimaLectura = 0;
+    // The sentence of the last failed write of DATOS.~CE, after its handler has told the user;
+    // empty when the last write went through.
+    std::string UltimoErrorDatos;
+    // The sentence of the last save that was refused (a title that cannot name a file, a work
+    // another program is writing), after the user was told; empty when the last save went through.
+    std::string UltimoGuardadoRechazado;
     // Set by the check step of every element (a no-op here).
     int16_t ResultadoCalculo = 0;
 

@@ -7,6 +7,8 @@
 #include <fcntl.h>
 #include <fstream>
 #include <random>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "works/Codepage.h"
@@ -50,10 +52,108 @@ bool RealRename(const std::string& from, const std::string& to)
 
 char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
 
+std::vector<std::string>& HeldFolders()
+{
+    static std::vector<std::string> held;
+    return held;
+}
+
+StagingArea*& ActiveStaging()
+{
+    static StagingArea* active = nullptr;
+    return active;
+}
+
+// The folder of a path, as the staging area compares it.
+std::string FolderKey(const fs::path& p)
+{
+    std::string s = p.lexically_normal().string();
+    while (s.size() > 1 && s.back() == '/')
+        s.pop_back();
+    return s;
+}
+
+// The staging area that covers `path`, if one is active for its folder.
+StagingArea* StagingFor(const std::string& path)
+{
+    StagingArea* area = ActiveStaging();
+    if (!area)
+        return nullptr;
+    return FolderKey(fs::path(path).parent_path()) == area->folder() ? area : nullptr;
+}
+
+std::string ErrnoText(int err) { return err ? std::string(": ") + std::strerror(err) : std::string(); }
+
+std::string RandomHex(int digits)
+{
+    static std::mt19937_64 rng{std::random_device{}()};
+    static const char* hex = "0123456789abcdef";
+    std::string s;
+    for (int i = 0; i < digits; ++i)
+        s += hex[rng() % 16];
+    return s;
+}
+
+// A read-only or folder target is refused before anything is written for it.
+void CheckReplaceable(const fs::path& target)
+{
+    std::error_code ec;
+    if (fs::is_directory(target, ec))
+        throw FileError(target.string(), "is a folder, not a file");
+    if (fs::exists(target, ec)) {
+        const auto perms = fs::status(target, ec).permissions();
+        if ((perms & fs::perms::owner_write) == fs::perms::none || ::access(target.c_str(), W_OK) != 0)
+            throw FileError(target.string(), "is read-only and was left as it was");
+    }
+}
+
+// Writes a new temporary file and renames it over `path`, through the seam.
+void ReplaceThroughTemporary(const std::string& path, std::string_view bytes)
+{
+    fs::path target(path);
+    fs::path folder = target.parent_path();
+    if (folder.empty())
+        folder = ".";
+    std::error_code ec;
+    if (!fs::is_directory(folder, ec))
+        throw FileError(path, "its folder does not exist");
+    CheckReplaceable(target);
+    std::string tmp;
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        tmp = (folder / (".vardena-" + RandomHex(12) + ".tmp")).string();
+        if (!fs::exists(tmp, ec))
+            break;
+    }
+    auto& seam = Seam();
+    errno = 0;
+    bool wrote = seam.write ? seam.write(tmp, bytes) : RealWrite(tmp, bytes);
+    if (!wrote) {
+        int err = errno;
+        fs::remove(tmp, ec);
+        throw FileError(path, "cannot be written" + ErrnoText(err));
+    }
+    // Keep the permissions of the file being replaced.
+    if (fs::exists(target, ec)) {
+        auto perms = fs::status(target, ec).permissions();
+        if (!ec)
+            fs::permissions(tmp, perms, ec);
+    }
+    errno = 0;
+    bool renamed = seam.rename ? seam.rename(tmp, path) : RealRename(tmp, path);
+    if (!renamed) {
+        int err = errno;
+        fs::remove(tmp, ec);
+        throw FileError(path, "cannot be replaced" + ErrnoText(err));
+    }
+}
+
 }  // namespace
 
 std::string ReadFileBytes(const std::string& path)
 {
+    if (StagingArea* area = StagingFor(path))
+        if (auto staged = area->StagedFor(path))
+            return ReadFileBytes(*staged);
     std::error_code ec;
     if (!fs::exists(path, ec))
         throw FileError(path, "the file does not exist");
@@ -70,6 +170,9 @@ std::string ReadFileBytes(const std::string& path)
 
 std::optional<std::string> ReadFileIfExists(const std::string& path)
 {
+    if (StagingArea* area = StagingFor(path))
+        if (area->StagedFor(path))
+            return ReadFileBytes(path);
     std::error_code ec;
     if (!fs::exists(path, ec))
         return std::nullopt;
@@ -78,48 +181,237 @@ std::optional<std::string> ReadFileIfExists(const std::string& path)
 
 void WriteFileAtomic(const std::string& path, std::string_view bytes)
 {
-    fs::path target(path);
-    fs::path folder = target.parent_path();
-    if (folder.empty())
-        folder = ".";
-    std::error_code ec;
-    if (!fs::is_directory(folder, ec))
-        throw FileError(path, "its folder does not exist");
-    if (fs::is_directory(target, ec))
-        throw FileError(path, "is a folder, not a file");
-
-    static std::mt19937 rng{std::random_device{}()};
-    std::string tmp;
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        tmp = (folder / ("." + target.filename().string() + ".tmp" + std::to_string(rng() % 1000000)))
-                  .string();
-        if (!fs::exists(tmp, ec))
-            break;
+    if (StagingArea* area = StagingFor(path)) {
+        area->Stage(path, bytes);
+        return;
     }
+    ReplaceThroughTemporary(path, bytes);
+}
+
+void WriteFileDurable(const std::string& path, std::string_view bytes)
+{
+    ReplaceThroughTemporary(path, bytes);
+    SyncFolder(fs::path(path).parent_path().string());
+}
+
+StagingArea::StagingArea(std::string folder, std::string tag) : folder_(FolderKey(folder)), tag_(std::move(tag))
+{
+    if (ActiveStaging())
+        throw std::logic_error("a staging area is already active");
+    ActiveStaging() = this;
+}
+
+StagingArea::~StagingArea()
+{
+    ActiveStaging() = nullptr;
+    if (!released_)
+        Discard();
+}
+
+std::optional<std::string> StagingArea::StagedFor(const std::string& target) const
+{
+    const std::string name = fs::path(target).filename().string();
+    const Entry* e = FindNoCase(name);
+    if (!e || e->target != name)
+        return std::nullopt;
+    return (fs::path(folder_) / e->staged).string();
+}
+
+const StagingArea::Entry* StagingArea::FindNoCase(std::string_view name) const
+{
+    std::string key(name);
+    for (char& c : key)
+        c = Lower(c);
+    auto it = byName_.find(key);
+    return it == byName_.end() ? nullptr : &entries_[it->second];
+}
+
+const StagingArea* ActiveStagingFor(const std::string& folder)
+{
+    StagingArea* area = ActiveStaging();
+    return area && FolderKey(folder) == area->folder() ? area : nullptr;
+}
+
+void StagingArea::Stage(const std::string& target, std::string_view bytes)
+{
+    const fs::path t(target);
+    const std::string name = t.filename().string();
+    CheckReplaceable(t);
+    std::string staged;
+    if (const Entry* e = FindNoCase(name); e && e->target == name)
+        staged = e->staged;
+    const bool fresh = staged.empty();
+    if (fresh)
+        staged = StagedPrefix(tag_) + std::to_string(entries_.size() + 1) + ".staged";
+    const std::string stagedPath = (fs::path(folder_) / staged).string();
+    std::error_code ec;
+    // A file staged twice is simply written again: it replaces nothing yet.
+    fs::remove(stagedPath, ec);
     auto& seam = Seam();
-    bool wrote = seam.write ? seam.write(tmp, bytes) : RealWrite(tmp, bytes);
+    errno = 0;
+    const bool wrote = seam.write ? seam.write(stagedPath, bytes) : [&] {
+        int fd = ::open(stagedPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+        if (fd < 0)
+            return false;
+        size_t done = 0;
+        while (done < bytes.size()) {
+            ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n < 0) {
+                int err = errno;
+                ::close(fd);
+                errno = err;
+                return false;
+            }
+            done += static_cast<size_t>(n);
+        }
+        return ::close(fd) == 0;
+    }();
     if (!wrote) {
         int err = errno;
-        fs::remove(tmp, ec);
-        throw FileError(path, std::string("cannot be written") + (err ? std::string(": ") + std::strerror(err) : ""));
+        fs::remove(stagedPath, ec);
+        throw FileError(target, "cannot be written" + ErrnoText(err));
     }
-    // Keep the permissions of the file being replaced. A file without write permission is
-    // read-only to the program, whoever runs it: it is left as it is.
-    if (fs::exists(target, ec)) {
-        auto perms = fs::status(target, ec).permissions();
+    if (fs::exists(t, ec)) {
+        auto perms = fs::status(t, ec).permissions();
         if (!ec)
-            fs::permissions(tmp, perms, ec);
-        if ((perms & fs::perms::owner_write) == fs::perms::none || ::access(path.c_str(), W_OK) != 0) {
-            fs::remove(tmp, ec);
-            throw FileError(path, "is read-only and was left as it was");
+            fs::permissions(stagedPath, perms, ec);
+    }
+    if (fresh) {
+        std::string key = name;
+        for (char& c : key)
+            c = Lower(c);
+        byName_.emplace(std::move(key), entries_.size());
+        entries_.push_back({staged, name});
+    }
+}
+
+void StagingArea::Discard()
+{
+    std::error_code ec;
+    for (const auto& e : entries_)
+        fs::remove(fs::path(folder_) / e.staged, ec);
+    entries_.clear();
+    byName_.clear();
+}
+
+bool IsOwnWorkFile(std::string_view name) { return name.rfind(".vardena", 0) == 0; }
+
+std::string StagedPrefix(const std::string& tag) { return ".vardena-" + tag + "-"; }
+
+void CommitStaged(const std::string& folder, const std::vector<StagingArea::Entry>& entries)
+{
+    auto& seam = Seam();
+    for (const auto& e : entries) {
+        const std::string from = (fs::path(folder) / e.staged).string();
+        const std::string to = (fs::path(folder) / e.target).string();
+        std::error_code ec;
+        if (!fs::exists(from, ec))
+            continue;
+        errno = 0;
+        const bool renamed = seam.rename ? seam.rename(from, to) : RealRename(from, to);
+        if (!renamed)
+            throw FileError(to, "cannot be replaced" + ErrnoText(errno));
+    }
+    SyncFolder(folder);
+}
+
+void SyncFileSystem(const std::string& folder)
+{
+    int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        throw FileError(folder, "cannot be opened to flush it to the disk" + ErrnoText(errno));
+    const int rc = ::syncfs(fd);
+    const int err = errno;
+    ::close(fd);
+    if (rc != 0)
+        throw FileError(folder, "cannot be flushed to the disk" + ErrnoText(err));
+}
+
+void SyncFolder(const std::string& folder)
+{
+    int fd = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+std::optional<WorkLock> WorkLock::Try(const std::string& folder)
+{
+    const std::string path = (fs::path(folder) / kLockFileName).string();
+    for (int attempt = 0; attempt < 10; ++attempt) {
+        int fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+        if (fd < 0)
+            throw FileError(folder, "cannot be locked for writing" + ErrnoText(errno));
+        if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+            const int err = errno;
+            ::close(fd);
+            if (err == EWOULDBLOCK)
+                return std::nullopt;
+            throw FileError(folder, "cannot be locked for writing" + ErrnoText(err));
         }
+        // The holder before us may have removed the file between our open and our lock: then
+        // we hold a lock on a file nobody else sees, and must start again.
+        struct stat byFd {}, byPath {};
+        if (::fstat(fd, &byFd) == 0 && ::stat(path.c_str(), &byPath) == 0 && byFd.st_ino == byPath.st_ino &&
+            byFd.st_dev == byPath.st_dev) {
+            HeldFolders().push_back(FolderKey(folder));
+            return WorkLock(FolderKey(folder), path, fd);
+        }
+        ::close(fd);
     }
-    bool renamed = seam.rename ? seam.rename(tmp, path) : RealRename(tmp, path);
-    if (!renamed) {
-        int err = errno;
-        fs::remove(tmp, ec);
-        throw FileError(path, std::string("cannot be replaced") + (err ? std::string(": ") + std::strerror(err) : ""));
+    return std::nullopt;
+}
+
+WorkLock::WorkLock(WorkLock&& other) noexcept
+    : folder_(std::move(other.folder_)), path_(std::move(other.path_)), fd_(other.fd_)
+{
+    other.fd_ = -1;
+}
+
+WorkLock& WorkLock::operator=(WorkLock&& other) noexcept
+{
+    if (this != &other) {
+        Free();
+        folder_ = std::move(other.folder_);
+        path_ = std::move(other.path_);
+        fd_ = other.fd_;
+        other.fd_ = -1;
     }
+    return *this;
+}
+
+WorkLock::~WorkLock() { Free(); }
+
+void WorkLock::Free()
+{
+    if (fd_ < 0)
+        return;
+    // Removed while still held, so that nobody can lock the file between the two steps.
+    ::unlink(path_.c_str());
+    ::close(fd_);
+    fd_ = -1;
+    auto& held = HeldFolders();
+    if (auto it = std::find(held.begin(), held.end(), folder_); it != held.end())
+        held.erase(it);
+}
+
+bool WorkLock::HeldHere(const std::string& folder)
+{
+    const auto& held = HeldFolders();
+    return std::find(held.begin(), held.end(), FolderKey(folder)) != held.end();
+}
+
+std::optional<WorkLock> LockForSave(const std::string& folder)
+{
+    if (WorkLock::HeldHere(folder))
+        return std::nullopt;
+    std::optional<WorkLock> lock = WorkLock::Try(folder);
+    if (!lock)
+        throw WorkBusy(FolderKey(folder));
+    return lock;
 }
 
 FileSystemSeam SetFileSystemSeam(FileSystemSeam seam)
@@ -174,6 +466,9 @@ bool SameNameNoCase(std::string_view a, std::string_view b)
 
 std::optional<std::string> FindNoCase(const std::string& folder, std::string_view name)
 {
+    if (const StagingArea* area = ActiveStagingFor(folder))
+        if (const StagingArea::Entry* e = area->FindNoCase(name))
+            return (fs::path(area->folder()) / e->target).string();
     std::error_code ec;
     fs::path exact = fs::path(folder) / std::string(name);
     if (fs::exists(exact, ec))

@@ -26,6 +26,7 @@ ObraInfo AbreObra(Declaraciones& d, const std::string& folder)
     std::error_code ec;
     if (!std::filesystem::is_directory(path, ec))
         throw FileError(path, "the work folder does not exist");
+    info.recovery = RecuperaObra(path);
     d.CarpetaObra = path;
     d.NombreObra = ArchivoDe(path);
     d.DirObras = CarpetaDe(path);

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "works/Transaccion.h"
+
 namespace vardena {
 
 struct Declaraciones;
@@ -17,7 +19,10 @@ struct ObraInfo {
     std::string versionText;    // Formato00Punto of it
     std::vector<std::string> contents;  // ListaElementos
     std::string description;    // DESCR.~CE, lines joined with CR LF
-    bool convertible = false;   // the rule of the "CONVERTIR" button, and general data read whole
+    bool convertible = false;
+    // Lines of DATOS.~CE that could not be read, one short sentence each naming the line.
+    std::vector<std::string> unreadLines;
+    Recuperacion recovery;      // what an interrupted run or save had left, and what became of it   // the rule of the "CONVERTIR" button, and general data read whole
 };
 
 // The rule of the "CONVERTIR" button: a work whose DATOS.~CE exists and whose version is

@@ -271,7 +271,23 @@ std::string RutaResultados(Form& form, std::string_view title)
 std::string GuardaForm(Form& form)
 {
     Declaraciones& d = form.decl();
-    const std::string path = RutaRegistro(form, form.At("txtTitulo").Text());
+    d.UltimoGuardadoRechazado.clear();
+    const std::string title = form.At("txtTitulo").Text();
+    auto refuse = [&](const std::string& sentence) {
+        d.UltimoGuardadoRechazado = sentence;
+        d.ui.MsgBox(sentence, mb::Exclamation, d.Msg(34));
+        return std::string();
+    };
+    // The title names the record's file: it must stay a plain name inside the work.
+    if (const std::string why = TituloInvalido(d, title); !why.empty())
+        return refuse(Mensaje(d, 1406, {title, why}));
+    std::optional<WorkLock> lock;
+    try {
+        lock = LockForSave(d.CarpetaObra);
+    } catch (const WorkBusy&) {
+        return refuse(Mensaje(d, 1413, {d.CarpetaObra}));
+    }
+    const std::string path = RutaRegistro(form, title);
     // An existing record in another case is replaced under its own name.
     const std::string target = ExistingNoCase(path).value_or(path);
     FormGuardaFile2(form, target);

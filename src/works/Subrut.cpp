@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "works/Codepage.h"
 #include "works/Declaraciones.h"
 #include "works/FileIo.h"
 #include "works/Form.h"
@@ -305,6 +306,49 @@ double AreaSeparacion(const Control& c, float factor)
         return 0;
     const double r = CutToInteger(c.Get("Diametro")) / 2000.0;
     return 100.0 / sep * kPi * r * r * factor;
+}
+
+std::string Mensaje(const Declaraciones& d, int n, std::initializer_list<std::string> args)
+{
+    std::string text = d.Msg(n);
+    if (text.empty()) {
+        text = "[" + std::to_string(n) + "]";
+        for (size_t i = 0; i < args.size(); ++i)
+            text += " %" + std::to_string(i + 1);
+    }
+    std::string out;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1' && text[i + 1] <= '9') {
+            const size_t k = static_cast<size_t>(text[i + 1] - '1');
+            if (k < args.size()) {
+                out += *(args.begin() + k);
+                ++i;
+                continue;
+            }
+        }
+        out += text[i];
+    }
+    return out;
+}
+
+std::string TituloInvalido(const Declaraciones& d, std::string_view title)
+{
+    if (title.empty())
+        return d.Msg(1407);
+    if (title == "." || title == "..")
+        return d.Msg(1408);
+    for (unsigned char c : title) {
+        if (c == '/' || c == '\\')
+            return d.Msg(1409);
+        if (c < 0x20 || c == 0x7F)
+            return d.Msg(1410);
+    }
+    // The record's name adds ".~" and the code to the title.
+    if (Utf8ToCp1252(title).size() + 4 > 255)
+        return d.Msg(1411);
+    if (IsOwnWorkFile(title))
+        return d.Msg(1412);
+    return {};
 }
 
 }  // namespace vardena

@@ -3,6 +3,7 @@
 // list filling and the material tables.
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,6 +41,15 @@ double Redondea(double v, int decimals = 0);
 double Maximo3(double a, double b, double c);
 
 // ---- Text and paths ----
+
+// Message `n` of the message table with "%1", "%2"... replaced by `args`. A message the pack
+// lacks still says its number and its arguments.
+std::string Mensaje(const Declaraciones& d, int n, std::initializer_list<std::string> args = {});
+
+// Why `title` cannot name a record inside the work (empty, "." or "..", a path separator, a
+// control character, more than 255 bytes on disk, a name the program keeps for itself), as a
+// phrase of the message table; "" when it can.
+std::string TituloInvalido(const Declaraciones& d, std::string_view title);
 
 // The n-th token (from 1) of `text`; runs of the separator never make an empty token.
 std::string Palabra(int n, std::string_view text, std::string_view sep = " ");

@@ -1,5 +1,7 @@
 // vardena convert: carries a work of version 3.00 or 3.01 into the named format of 3.50.
 
+#include <algorithm>
+#include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <sstream>
@@ -38,8 +40,22 @@ void PrintLog(const ConversionLog& log, bool dryRun, std::ostream& out)
         out << ": " << e.note << "\n";
     }
     out << "  records: " << log.records << (log.completed ? "" : " (the run ended early)") << "\n";
+    for (const auto& line : log.unreadGeneralData)
+        out << "  general data not read: " << line << "\n";
     if (!log.error.empty())
-        out << "  error: " << log.error << "\n";
+        out << "  " << log.error << "\n";
+}
+
+const char* EndName(ConversionLog::End e)
+{
+    switch (e) {
+    case ConversionLog::End::None: return "";
+    case ConversionLog::End::Busy: return "busy";
+    case ConversionLog::End::Refused: return "refused";
+    case ConversionLog::End::RolledBack: return "rolled-back";
+    case ConversionLog::End::Pending: return "pending";
+    }
+    return "";
 }
 
 std::string JsonLog(const ConversionLog& log, bool dryRun, const std::string& refusal)
@@ -50,7 +66,13 @@ std::string JsonLog(const ConversionLog& log, bool dryRun, const std::string& re
     if (!refusal.empty())
         o << ",\"refused\":" << Json(refusal);
     if (!log.error.empty())
-        o << ",\"error\":" << Json(log.error);
+        o << ",\"error\":" << Json(log.error) << ",\"end\":" << Json(EndName(log.end));
+    if (!log.unreadGeneralData.empty()) {
+        o << ",\"unreadGeneralData\":[";
+        for (size_t i = 0; i < log.unreadGeneralData.size(); ++i)
+            o << (i ? "," : "") << Json(log.unreadGeneralData[i]);
+        o << "]";
+    }
     o << ",\"forms\":[";
     for (size_t i = 0; i < log.list4.size(); ++i)
         o << (i ? "," : "") << Json(log.list4[i]);
@@ -64,31 +86,83 @@ std::string JsonLog(const ConversionLog& log, bool dryRun, const std::string& re
     return o.str();
 }
 
-// Converts one work; returns the exit code.
-int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, std::string& json)
+// Ctrl-C, SIGTERM and SIGHUP ask the run to stop between two records; it then throws away what
+// it staged, so the work is left as it was. Once the renames have begun they are finished.
+volatile std::sig_atomic_t gStop = 0;
+extern "C" void OnStopSignal(int) { gStop = 1; }
+
+void CatchStopSignals()
 {
-    ObraInfo info = AbreObra(app.decl, work);
+    struct sigaction sa {};
+    sa.sa_handler = OnStopSignal;
+    sigemptyset(&sa.sa_mask);
+    for (int sig : {SIGINT, SIGTERM, SIGHUP})
+        sigaction(sig, &sa, nullptr);
+}
+
+// What became of each work, for the closing total.
+struct Summary {
+    int converted = 0;
+    std::vector<std::pair<std::string, std::string>> refused;     // work, why
+    std::vector<std::pair<std::string, std::string>> rolledBack;  // work, why
+    std::vector<std::pair<std::string, std::string>> leftAlone;   // work, why (not of 3.00/3.01)
+};
+
+// Says on standard error what the opening of a work found of an interrupted run or save.
+void TellRecovery(const Declaraciones& d, const ObraInfo& info)
+{
+    using R = Recuperacion::Resultado;
+    switch (info.recovery.resultado) {
+    case R::Nada: return;
+    case R::Terminada: std::cerr << "vardena: " << Mensaje(d, 1403, {info.folder}) << "\n"; return;
+    case R::Descartada: std::cerr << "vardena: " << Mensaje(d, 1404, {info.folder}) << "\n"; return;
+    case R::Limpiada:
+        std::cerr << "vardena: " << Mensaje(d, 1405, {info.folder, std::to_string(info.recovery.archivos)}) << "\n";
+        return;
+    case R::Ocupada: return;  // the run itself refuses the work below
+    }
+}
+
+// Converts one work; returns the exit code.
+int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, const std::string& backupDir,
+               std::string& json, Summary& summary)
+{
+    Declaraciones& d = app.decl;
+    ObraInfo info = AbreObra(d, work);
+    TellRecovery(d, info);
     ConversionLog log;
     log.work = info.folder;
     if (!info.convertible) {
-        std::string why = !info.hasDatos ? "it has no DATOS.~CE"
-                          : !info.problem.empty() ? info.problem
-                                                  : "it is of version " + info.versionText +
-                                                        " and only works of version 3.00 or 3.01 are converted";
-        const std::string msg = info.folder + ": the work is not converted: " + why + "; nothing was written";
+        std::string why = !info.hasDatos ? Mensaje(d, 1427, {info.folder})
+                                         : Mensaje(d, 1428, {info.versionText});
+        const std::string msg = Mensaje(d, 1429, {info.folder, why});
+        summary.leftAlone.push_back({info.folder, why});
         if (opt.json)
             json = JsonLog(log, opt.dryRun, msg);
-        else
+        else if (opt.works.size() == 1)
             std::cerr << "vardena: error: " << msg << "\n";
         return kFailure;
     }
-    if (!opt.backup.empty() && !opt.dryRun) {
-        const std::string copy = CopiaDeSeguridad(info.folder, opt.backup);
-        std::cerr << "vardena: backup of " << info.folder << " in " << copy << "\n";
+    if (!backupDir.empty() && !opt.dryRun) {
+        try {
+            const std::string copy = CopiaDeSeguridad(d, info.folder, ConBarra(backupDir) + ArchivoDe(info.folder));
+            std::cerr << "vardena: " << Mensaje(d, 1430, {info.folder, copy}) << "\n";
+        } catch (const FileError& e) {
+            const std::string msg = Mensaje(d, 1401, {info.folder, e.what()});
+            summary.refused.push_back({info.folder, e.what()});
+            log.error = msg;
+            log.end = ConversionLog::End::Refused;
+            if (opt.json)
+                json = JsonLog(log, opt.dryRun, msg);
+            else
+                std::cerr << "vardena: error: " << msg << "\n";
+            return kFailure;
+        }
     }
     std::vector<std::string> list2;
     ConversionOptions co;
     co.dryRun = opt.dryRun;
+    co.cancelled = [] { return gStop != 0; };
     // On a terminal the count stays on one line; in a log, a line per record.
     const bool terminal = ::isatty(STDERR_FILENO) != 0;
     co.progress = [terminal](int done, const std::string& what) {
@@ -97,15 +171,23 @@ int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, std
         else
             std::cerr << "vardena: " << done << " records  " << what << "\n";
     };
-    log = Convierte(app.decl, list2, co);
+    log = Convierte(d, list2, co);
+    log.unreadGeneralData = info.unreadLines;
     if (terminal && log.records > 0)
         std::cerr << "\r\033[K";
     if (opt.json)
         json = JsonLog(log, opt.dryRun, {});
     else
         PrintLog(log, opt.dryRun, std::cout);
-    if (!log.completed)
+    if (!log.completed) {
+        if (log.end == ConversionLog::End::Busy || log.end == ConversionLog::End::Refused)
+            summary.refused.push_back({info.folder, log.error});
+        else
+            summary.rolledBack.push_back({info.folder, log.error});
         return kFailure;
+    }
+    if (!opt.dryRun)
+        ++summary.converted;
     for (const auto& e : log.entries)
         if (e.status == ConversionEntry::Status::Refused)
             return kRefusedRecords;
@@ -133,42 +215,110 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
     }
     if (all.empty() == opt.works.empty() || opt.works.size() > 1)
         return Usage("convert");
+    const Declaraciones& d = app.decl;
     std::vector<std::string> works = opt.works;
     if (!all.empty()) {
         std::error_code ec;
         if (!std::filesystem::is_directory(all, ec))
-            return Fail(all + ": the folder does not exist");
-        for (const auto& w : ListaObras(all)) {
-            // Only the works that can be converted are taken.
-            Aplicacion probe(app.decl.ui, std::make_unique<MemorySettings>(), app.decl.DirPrograma);
-            if (AbreObra(probe.decl, ConBarra(all) + w).convertible)
-                works.push_back(ConBarra(all) + w);
-        }
+            return Fail(Mensaje(d, 1431, {all}));
+        for (const auto& w : ListaObras(all))
+            works.push_back(ConBarra(all) + w);
     }
+    // The backup folder is made by this run: an existing one, or one inside a work, is refused
+    // before anything is copied or converted.
+    std::string backupDir;
+    if (!opt.backup.empty() && !opt.dryRun) {
+        namespace fs = std::filesystem;
+        std::error_code ec;
+        const fs::path dir = fs::weakly_canonical(fs::absolute(opt.backup), ec);
+        if (fs::exists(dir, ec) || fs::is_symlink(dir, ec))
+            return Fail(Mensaje(d, 1414, {Mensaje(d, 1416, {dir.string()})}));
+        for (const auto& w : works) {
+            const fs::path wp = fs::weakly_canonical(fs::absolute(w), ec);
+            if (std::mismatch(wp.begin(), wp.end(), dir.begin(), dir.end()).first == wp.end())
+                return Fail(Mensaje(d, 1414, {Mensaje(d, 1415, {dir.string()})}));
+        }
+        backupDir = dir.string();
+    }
+    CatchStopSignals();
     int worst = kOk;
+    Summary summary;
     std::vector<std::string> jsons;
     for (const auto& w : works) {
+        if (gStop)
+            break;
         std::string json;
         // Each work starts from a fresh state, as when it is selected in the main window.
         Aplicacion fresh(app.decl.ui, std::make_unique<MemorySettings>(), app.decl.DirPrograma);
-        const int rc = ConvertOne(fresh, w, opt, json);
+        int rc;
+        try {
+            rc = ConvertOne(fresh, w, opt, backupDir, json, summary);
+        } catch (const FileError& e) {
+            const std::string msg = Mensaje(d, 1401, {w, e.what()});
+            summary.refused.push_back({w, e.what()});
+            std::cerr << "vardena: error: " << msg << "\n";
+            rc = kFailure;
+        }
+        // In a folder of works, one that is not of version 3.00 or 3.01 is simply not taken.
+        const bool notConvertible = !summary.leftAlone.empty() && summary.leftAlone.back().first ==
+                                    std::filesystem::absolute(w).lexically_normal().string();
+        if (!all.empty() && notConvertible && rc == kFailure) {
+            rc = kOk;
+            json.clear();
+        }
         if (!json.empty())
             jsons.push_back(json);
         if (rc == kFailure || worst == kOk)
             worst = rc == kOk ? worst : rc;
     }
+    if (!backupDir.empty()) {
+        // A backup folder left empty (every work refused before its copy) is not kept.
+        std::error_code ec;
+        std::filesystem::remove(backupDir, ec);
+    }
+    const std::string total = Mensaje(d, 1423, {std::to_string(summary.converted), std::to_string(summary.refused.size()),
+                                                std::to_string(summary.rolledBack.size()),
+                                                std::to_string(summary.leftAlone.size())});
     if (opt.json) {
-        if (all.empty() && jsons.size() == 1)
+        if (all.empty() && jsons.size() == 1) {
             std::cout << jsons[0] << "\n";
-        else {
-            std::cout << "[";
+        } else {
+            auto pairs = [](const std::vector<std::pair<std::string, std::string>>& v) {
+                std::string o = "[";
+                for (size_t i = 0; i < v.size(); ++i)
+                    o += (i ? "," : "") + std::string("{\"work\":") + Json(v[i].first) + ",\"why\":" + Json(v[i].second) + "}";
+                return o + "]";
+            };
+            std::cout << "{\"works\":[";
             for (size_t i = 0; i < jsons.size(); ++i)
                 std::cout << (i ? "," : "") << jsons[i];
-            std::cout << "]\n";
+            std::cout << "],\"converted\":" << summary.converted << ",\"refused\":" << pairs(summary.refused)
+                      << ",\"rolledBack\":" << pairs(summary.rolledBack) << ",\"notConvertible\":"
+                      << pairs(summary.leftAlone) << ",\"verdict\":" << Json(total) << "}\n";
         }
+        return worst;
     }
-    if (!all.empty() && works.empty())
-        std::cerr << "vardena: no work of version 3.00 or 3.01 in " << all << "\n";
+    if (opt.dryRun)
+        return worst;
+    // The verdict is the last line.
+    if (all.empty()) {
+        if (summary.converted == 1)
+            std::cout << Mensaje(d, 1402, {std::filesystem::absolute(works[0]).lexically_normal().string()}) << "\n";
+        else if (!summary.refused.empty())
+            std::cout << Mensaje(d, 1401, {summary.refused[0].first, summary.refused[0].second}) << "\n";
+        else if (!summary.rolledBack.empty())
+            std::cout << summary.rolledBack[0].second << "\n";
+        else if (!summary.leftAlone.empty())
+            std::cout << Mensaje(d, 1429, {summary.leftAlone[0].first, summary.leftAlone[0].second}) << "\n";
+        return worst;
+    }
+    for (const auto& [work, why] : summary.refused)
+        std::cout << "  " << why << "\n";
+    for (const auto& [work, why] : summary.rolledBack)
+        std::cout << "  " << why << "\n";
+    for (const auto& [work, why] : summary.leftAlone)
+        std::cout << "  " << ArchivoDe(work) << ": " << why << "\n";
+    std::cout << total << "\n";
     return worst;
 }
 

@@ -329,7 +329,11 @@ int CmdForm(Aplicacion& app, const std::vector<std::string>& args)
         if (!c)
             return Fail(problema);
         if (p.pulsa) {
+            d.UltimoGuardadoRechazado.clear();
             c->Click();
+            // A save the form refused has told why on standard error; nothing was written.
+            if (!d.UltimoGuardadoRechazado.empty())
+                return kFailure;
             continue;
         }
         const std::string prop = p.control.propiedad.empty() ? PropiedadPorDefecto(*c) : p.control.propiedad;
