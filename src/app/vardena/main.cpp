@@ -88,7 +88,8 @@ public:
     }
     bool ErrorFrm(std::string_view origin, int number, std::string_view description) override
     {
-        std::cerr << "vardena: error " << number << " in " << origin << ": " << description << "\n";
+        // The handler's name and the run-time number are for the error report, not for the user.
+        std::cerr << "vardena: error: " << description << "\n";
         return false;
     }
 };
