@@ -15,6 +15,19 @@ bool ConvertirHabilitado(bool hasDatos, float versionObra)
     return hasDatos && versionObra != 0 && versionObra <= 3.01f;
 }
 
+std::string TextoRecuperacion(const Declaraciones& d, const ObraInfo& info)
+{
+    using R = Recuperacion::Resultado;
+    switch (info.recovery.resultado) {
+    case R::Terminada: return Mensaje(d, 1403, {info.folder});
+    case R::Descartada: return Mensaje(d, 1404, {info.folder});
+    case R::Limpiada: return Mensaje(d, 1405, {info.folder, std::to_string(info.recovery.archivos)});
+    case R::Nada:
+    case R::Ocupada: return {};
+    }
+    return {};
+}
+
 ObraInfo AbreObra(Declaraciones& d, const std::string& folder)
 {
     ObraInfo info;
@@ -39,6 +52,8 @@ ObraInfo AbreObra(Declaraciones& d, const std::string& folder)
         DatosStatus st = DatosFile(d, "DATOS.~CE", "L", text);
         info.datosDamaged = st.damaged || st.refused;
         info.problem = st.problem;
+        for (const UnreadLine& u : st.unread)
+            info.unreadLines.push_back(u.Sentence());
     }
     info.version = d.VersionObra;
     info.versionText = Formato00Punto(d.VersionObra);
@@ -46,9 +61,10 @@ ObraInfo AbreObra(Declaraciones& d, const std::string& folder)
     std::string descr;
     DatosFile(d, "DESCR.~CE", "L", descr);
     info.description = descr == "No" ? std::string() : descr;
-    // General data that could not be read whole are never rewritten: the conversion would
-    // store the part that was read and lose the rest.
-    info.convertible = ConvertirHabilitado(info.hasDatos, d.VersionObra) && !info.datosDamaged;
+    // The button follows the version rule alone. General data read only in part convert with
+    // what was read; the fields that were not keep their values and unreadLines names them,
+    // so that the log can say which lines were not read.
+    info.convertible = ConvertirHabilitado(info.hasDatos, d.VersionObra);
     return info;
 }
 

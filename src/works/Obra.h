@@ -29,6 +29,10 @@ struct ObraInfo {
 // neither 0 nor above 3.01.
 bool ConvertirHabilitado(bool hasDatos, float versionObra);
 
+// What the opening of a work found of an interrupted conversion or save, as a sentence in the
+// user's language; "" when there was nothing.
+std::string TextoRecuperacion(const Declaraciones& d, const ObraInfo& info);
+
 // Selects the work (CarpetaObra and NombreObra) and reads its general data and description
 // into `d`, as the main window does when a work is clicked.
 ObraInfo AbreObra(Declaraciones& d, const std::string& folder);

@@ -108,28 +108,14 @@ struct Summary {
     std::vector<std::pair<std::string, std::string>> leftAlone;   // work, why (not of 3.00/3.01)
 };
 
-// Says on standard error what the opening of a work found of an interrupted run or save.
-void TellRecovery(const Declaraciones& d, const ObraInfo& info)
-{
-    using R = Recuperacion::Resultado;
-    switch (info.recovery.resultado) {
-    case R::Nada: return;
-    case R::Terminada: std::cerr << "vardena: " << Mensaje(d, 1403, {info.folder}) << "\n"; return;
-    case R::Descartada: std::cerr << "vardena: " << Mensaje(d, 1404, {info.folder}) << "\n"; return;
-    case R::Limpiada:
-        std::cerr << "vardena: " << Mensaje(d, 1405, {info.folder, std::to_string(info.recovery.archivos)}) << "\n";
-        return;
-    case R::Ocupada: return;  // the run itself refuses the work below
-    }
-}
-
 // Converts one work; returns the exit code.
 int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, const std::string& backupDir,
                std::string& json, Summary& summary)
 {
     Declaraciones& d = app.decl;
     ObraInfo info = AbreObra(d, work);
-    TellRecovery(d, info);
+    if (const std::string note = TextoRecuperacion(d, info); !note.empty())
+        std::cerr << "vardena: " << note << "\n";
     ConversionLog log;
     log.work = info.folder;
     if (!info.convertible) {

@@ -27,12 +27,16 @@ int CmdInfo(Aplicacion& app, const std::vector<std::string>& args)
     if (args.size() != 1)
         return Usage("info");
     ObraInfo info = AbreObra(app.decl, args[0]);
+    if (const std::string note = TextoRecuperacion(app.decl, info); !note.empty())
+        std::cout << note << "\n";
     std::cout << "work: " << info.folder << "\n";
     std::cout << "version: " << info.versionText << "\n";
     if (!info.hasDatos)
         std::cout << "general data: missing (no DATOS.~CE)\n";
     else if (!info.problem.empty())
         std::cout << "general data: " << info.problem << "\n";
+    for (const auto& line : info.unreadLines)
+        std::cout << "general data not read: " << line << "\n";
     std::cout << "convertible: " << (info.convertible ? "yes (CONVERTIR enabled)" : "no (CONVERTIR disabled)") << "\n";
     std::cout << "contents:\n";
     for (const auto& line : info.contents)
