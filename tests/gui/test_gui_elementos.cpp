@@ -11,6 +11,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <iterator>
+#include <map>
 
 #include "controls/Programa.h"
 #include "frame/ElementForm.h"
@@ -141,6 +143,34 @@ TEST(GuiElementos, LoadingARecordShowsItsFieldsAndVersion)
     v->close();
     Espera();
     EXPECT_NE(p.programa.Menu(), nullptr);
+}
+
+// A title that cannot name a file inside the work is refused with a box, and nothing is written.
+TEST(GuiElementos, ATitleThatWouldLeaveTheWorkIsRefused)
+{
+    ProgramaDePrueba p("Vivienda Ruiz");
+    p.programa.Menu()->Accion("VigasH")->trigger();
+    Espera();
+    auto* v = dynamic_cast<VentanaElemento*>(p.programa.Actual());
+    ASSERT_NE(v, nullptr);
+    const std::string obra = p.Obra("Vivienda Ruiz");
+    std::map<std::string, std::string> antes;
+    for (const auto& e : fs::directory_iterator(p.dir.path()))
+        antes[e.path().filename().string()] = "";
+    const size_t archivos = std::distance(fs::directory_iterator(obra), fs::directory_iterator());
+    for (const char* titulo : {"..", "", "../fuera", "a\\b"}) {
+        SCOPED_TRACE(titulo);
+        Escribe(v->findChild<QLineEdit*>("txtTitulo"), QString::fromUtf8(titulo));
+        const size_t cajas = p.ui.boxes.size();
+        v->findChild<QPushButton*>("CmdCalcular")->click();
+        ASSERT_EQ(p.ui.boxes.size(), cajas + 1);
+        EXPECT_NE(p.ui.boxes.back().prompt.find("No se ha guardado nada"), std::string::npos) << p.ui.boxes.back().prompt;
+        EXPECT_EQ(static_cast<size_t>(std::distance(fs::directory_iterator(obra), fs::directory_iterator())), archivos);
+        std::map<std::string, std::string> ahora;
+        for (const auto& e : fs::directory_iterator(p.dir.path()))
+            ahora[e.path().filename().string()] = "";
+        EXPECT_EQ(ahora, antes) << "nothing beside the work either";
+    }
 }
 
 }  // namespace
