@@ -116,7 +116,7 @@ Recuperacion RecuperaObra(const std::string& folder, const WorkLock* lock)
     std::error_code ec;
     for (fs::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
         const std::string name = it->path().filename().string();
-        if (IsOwnWorkFile(name) && name != kLockFileName)
+        if (IsOwnWorkFile(name))
             propios.push_back(name);
     }
     if (propios.empty())
@@ -129,6 +129,11 @@ Recuperacion RecuperaObra(const std::string& folder, const WorkLock* lock)
             return r;
         }
     }
+    // A lock file alone was left by a program that stopped while it held it: taking the lock
+    // and letting it go removes it.
+    std::erase(propios, std::string(kLockFileName));
+    if (propios.empty())
+        return r;
     const std::string journalPath = (fs::path(folder) / kJournalName).string();
     Diario diario;
     bool hayDiario = false;

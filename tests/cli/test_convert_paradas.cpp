@@ -21,15 +21,8 @@ namespace vardena {
 namespace {
 
 namespace fs = std::filesystem;
-using Snapshot = std::map<std::string, std::string>;
-
-Snapshot Take(const std::string& folder)
-{
-    Snapshot s;
-    for (const auto& e : fs::directory_iterator(folder))
-        s[e.path().filename().string()] = e.is_regular_file() ? test::ReadBytes(e.path().string()) : "<folder>";
-    return s;
-}
+using test::Snapshot;
+Snapshot Take(const std::string& folder) { return test::TakeSnapshot(folder); }
 
 // The names of the program's own files (lock, journal, staged and temporary files) in a folder.
 std::vector<std::string> OwnFiles(const std::string& folder)

@@ -68,6 +68,14 @@ std::string Slurp(const std::string& path)
 }
 }  // namespace
 
+Snapshot TakeSnapshot(const std::string& folder)
+{
+    Snapshot s;
+    for (const auto& e : std::filesystem::directory_iterator(folder))
+        s[e.path().filename().string()] = e.is_regular_file() ? ReadBytes(e.path().string()) : "<folder>";
+    return s;
+}
+
 int RunCli(const std::string& args, std::string* out, std::string* err)
 {
     ScratchDir tmp;

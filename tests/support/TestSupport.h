@@ -3,6 +3,7 @@
 // program state with recorded message boxes and settings kept in memory.
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -51,6 +52,10 @@ int PropertyErrorNumber(Fn fn)
     }
     return 0;
 }
+
+// Every entry of a folder: a file's name and bytes, a sub-folder's name and "<folder>".
+using Snapshot = std::map<std::string, std::string>;
+Snapshot TakeSnapshot(const std::string& folder);
 
 // Runs the command-line tool; returns its exit code and fills the outputs.
 int RunCli(const std::string& args, std::string* out = nullptr, std::string* err = nullptr);

@@ -20,15 +20,8 @@ namespace vardena {
 namespace {
 
 namespace fs = std::filesystem;
-using Snapshot = std::map<std::string, std::string>;
-
-Snapshot Take(const std::string& folder)
-{
-    Snapshot s;
-    for (const auto& e : fs::directory_iterator(folder))
-        s[e.path().filename().string()] = e.is_regular_file() ? test::ReadBytes(e.path().string()) : "<folder>";
-    return s;
-}
+using test::Snapshot;
+Snapshot Take(const std::string& folder) { return test::TakeSnapshot(folder); }
 
 // Restores the real file operations at the end of a test.
 struct SeamGuard {
@@ -189,6 +182,7 @@ TEST_F(Recovery, AStagePhaseJournalIsThrownAway)
     EscribeDiario(work, d);
     test::WriteBytes(work + "/.vardena-dead-1.staged", "medio");
     test::WriteBytes(work + "/.vardena-0123456789ab.tmp", "medio");
+    test::WriteBytes(work + "/" + kLockFileName, "");  // the lock file of the run that was killed
     const ObraInfo info = AbreObra(app.decl, work);
     EXPECT_EQ(info.recovery.resultado, Recuperacion::Resultado::Descartada);
     EXPECT_EQ(Take(work), before);
