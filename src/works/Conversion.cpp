@@ -55,6 +55,16 @@ const Dispatch* Find(const std::string& code)
 
 using Status = ConversionEntry::Status;
 
+// The dispatch row of a file name of the work: a name ending in "~" and a code the run serves;
+// nullptr for any other name. `code` receives the code.
+const Dispatch* DispatchOfName(const std::string& name, std::string& code)
+{
+    if (name.size() < 3 || name[name.size() - 3] != '~')
+        return nullptr;
+    code = name.substr(name.size() - 2);
+    return Find(code);
+}
+
 // The names of the folder, in the order the file system of version 3 listed them.
 std::vector<std::string> FolderNames(const std::string& folder)
 {
@@ -197,10 +207,8 @@ void DryRun(RunState& s, const std::vector<std::string>& names)
     Declaraciones& d = s.d;
     std::map<std::string, bool> done;
     for (const auto& name : names) {
-        if (name.size() < 3 || name[name.size() - 3] != '~')
-            continue;
-        const std::string code = name.substr(name.size() - 2);
-        const Dispatch* dispatch = Find(code);
+        std::string code;
+        const Dispatch* dispatch = DispatchOfName(name, code);
         if (!dispatch || (dispatch->records && done[code]))
             continue;
         if (!dispatch->records) {
@@ -324,10 +332,8 @@ std::string Preflight(const Declaraciones& d, const std::vector<std::string>& na
 {
     std::map<std::string, bool> seen;
     for (const auto& name : names) {
-        if (name.size() < 3 || name[name.size() - 3] != '~')
-            continue;
-        const std::string code = name.substr(name.size() - 2);
-        const Dispatch* dispatch = Find(code);
+        std::string code;
+        const Dispatch* dispatch = DispatchOfName(name, code);
         if (!dispatch)
             continue;
         if (!dispatch->records) {
@@ -379,10 +385,8 @@ void Walk(RunState& s, const std::vector<std::string>& list2)
     const size_t last = list2.size();
     for (size_t row = 0; row < last; ++row) {
         const std::string name = list2[row];
-        if (name.size() < 3 || name[name.size() - 3] != '~')
-            continue;
-        const std::string code = name.substr(name.size() - 2);
-        const Dispatch* dispatch = Find(code);
+        std::string code;
+        const Dispatch* dispatch = DispatchOfName(name, code);
         if (!dispatch)
             continue;
         if (dispatch->records) {

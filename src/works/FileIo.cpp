@@ -22,7 +22,8 @@ FileSystemSeam& Seam()
     return seam;
 }
 
-bool RealWrite(const std::string& tmp, std::string_view bytes)
+// Writes a new file; `durable` flushes it to the disk before it is closed.
+bool RealWrite(const std::string& tmp, std::string_view bytes, bool durable)
 {
     int fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (fd < 0)
@@ -30,16 +31,20 @@ bool RealWrite(const std::string& tmp, std::string_view bytes)
     size_t done = 0;
     while (done < bytes.size()) {
         ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
         if (n < 0) {
-            if (errno == EINTR)
-                continue;
+            const int err = errno;
             ::close(fd);
+            errno = err;
             return false;
         }
         done += static_cast<size_t>(n);
     }
-    if (::fsync(fd) != 0) {
+    if (durable && ::fsync(fd) != 0) {
+        const int err = errno;
         ::close(fd);
+        errno = err;
         return false;
     }
     return ::close(fd) == 0;
@@ -107,6 +112,26 @@ void CheckReplaceable(const fs::path& target)
     }
 }
 
+// Writes the new file `fresh` that is to replace `target`, through the seam, with the permissions
+// of the file it replaces. On failure nothing of it is left and FileError names `target`.
+void WriteReplacement(const std::string& fresh, const fs::path& target, std::string_view bytes, bool durable)
+{
+    std::error_code ec;
+    auto& seam = Seam();
+    errno = 0;
+    const bool wrote = seam.write ? seam.write(fresh, bytes) : RealWrite(fresh, bytes, durable);
+    if (!wrote) {
+        const int err = errno;
+        fs::remove(fresh, ec);
+        throw FileError(target.string(), "cannot be written" + ErrnoText(err));
+    }
+    if (fs::exists(target, ec)) {
+        const auto perms = fs::status(target, ec).permissions();
+        if (!ec)
+            fs::permissions(fresh, perms, ec);
+    }
+}
+
 // Writes a new temporary file and renames it over `path`, through the seam.
 void ReplaceThroughTemporary(const std::string& path, std::string_view bytes)
 {
@@ -124,20 +149,8 @@ void ReplaceThroughTemporary(const std::string& path, std::string_view bytes)
         if (!fs::exists(tmp, ec))
             break;
     }
+    WriteReplacement(tmp, target, bytes, true);
     auto& seam = Seam();
-    errno = 0;
-    bool wrote = seam.write ? seam.write(tmp, bytes) : RealWrite(tmp, bytes);
-    if (!wrote) {
-        int err = errno;
-        fs::remove(tmp, ec);
-        throw FileError(path, "cannot be written" + ErrnoText(err));
-    }
-    // Keep the permissions of the file being replaced.
-    if (fs::exists(target, ec)) {
-        auto perms = fs::status(target, ec).permissions();
-        if (!ec)
-            fs::permissions(tmp, perms, ec);
-    }
     errno = 0;
     bool renamed = seam.rename ? seam.rename(tmp, path) : RealRename(tmp, path);
     if (!renamed) {
@@ -247,37 +260,8 @@ void StagingArea::Stage(const std::string& target, std::string_view bytes)
     std::error_code ec;
     // A file staged twice is simply written again: it replaces nothing yet.
     fs::remove(stagedPath, ec);
-    auto& seam = Seam();
-    errno = 0;
-    const bool wrote = seam.write ? seam.write(stagedPath, bytes) : [&] {
-        int fd = ::open(stagedPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
-        if (fd < 0)
-            return false;
-        size_t done = 0;
-        while (done < bytes.size()) {
-            ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
-            if (n < 0 && errno == EINTR)
-                continue;
-            if (n < 0) {
-                int err = errno;
-                ::close(fd);
-                errno = err;
-                return false;
-            }
-            done += static_cast<size_t>(n);
-        }
-        return ::close(fd) == 0;
-    }();
-    if (!wrote) {
-        int err = errno;
-        fs::remove(stagedPath, ec);
-        throw FileError(target, "cannot be written" + ErrnoText(err));
-    }
-    if (fs::exists(t, ec)) {
-        auto perms = fs::status(t, ec).permissions();
-        if (!ec)
-            fs::permissions(stagedPath, perms, ec);
-    }
+    // No flush here: the whole run is flushed by one sync of the file system.
+    WriteReplacement(stagedPath, t, bytes, false);
     if (fresh) {
         std::string key = name;
         for (char& c : key)
