@@ -1,6 +1,7 @@
 #include "building/DatosGen.h"
 
 #include <cmath>
+#include <utility>
 
 #include "building/Unidades.h"
 #include "shell/LngPack.h"
@@ -16,6 +17,14 @@ namespace {
 // Level tables: P arrays run from the roof (0) down the floors, S arrays down the basements (1..).
 constexpr const char* kLoadsP[] = {"TxtPProP", "TxtConcP", "TxtSobrP", "TxtSTabP"};
 constexpr const char* kLoadsS[] = {"TxtPProS", "TxtConcS", "TxtSobrS", "TxtSTabS"};
+
+// The material lists and the stored index each one shows.
+constexpr std::pair<const char*, int16_t Declaraciones::*> kMaterialLists[] = {
+    {"CmbHorm", &Declaraciones::GenHorm},          {"CmbAcero", &Declaraciones::GenAcero},
+    {"cmbControl", &Declaraciones::GenControl},    {"CmbAcP", &Declaraciones::GenAcP},
+    {"CmbResis", &Declaraciones::GenResis},        {"CmbServi", &Declaraciones::GenServi},
+    {"cmbCatControl", &Declaraciones::GenCatControl}, {"CmbCatEjec", &Declaraciones::GenCatEjec},
+};
 
 constexpr int kHeadingOn = 0x70050B;
 constexpr int kHeadingOff = 0xC08070;
@@ -191,13 +200,39 @@ void DatosGen::Build()
 
 void DatosGen::MaterialGroup(const char* check, int label, std::vector<const char*> controls)
 {
-    At(check).onClick = [this, label, controls](Control& box) {
-        const bool on = box.CheckValue() != 0;
-        At("Label15", label).RawSet("ForeColor", std::to_string(on ? kHeadingOn : kHeadingOff));
-        for (const char* name : controls)
-            if (Control* c = Find(name))
-                c->SetEnabled(on);
-    };
+    groups_.push_back({check, label, std::move(controls)});
+    At(check).onClick = [this, n = groups_.size() - 1](Control&) { ApplyMaterialGroup(groups_[n]); };
+}
+
+void DatosGen::ApplyMaterialGroup(const MaterialGroupDef& group)
+{
+    const bool on = At(group.check).CheckValue() != 0;
+    At("Label15", group.label).RawSet("ForeColor", std::to_string(on ? kHeadingOn : kHeadingOff));
+    for (const char* name : group.controls)
+        if (Control* c = Find(name))
+            c->SetEnabled(on);
+}
+
+void DatosGen::PickStored(const char* combo, int stored)
+{
+    Control& c = At(combo);
+    const bool shown = stored >= 0 && stored < c.ListCount();
+    c.SetListIndex(shown ? stored : -1);
+    if (shown)
+        unshownIndex_.erase(combo);
+    else
+        unshownIndex_[combo] = stored;
+}
+
+int16_t DatosGen::StoredIndex(const char* combo) const
+{
+    // A list that could not show its stored index shows no row, and no row can be chosen back
+    // by the user: the stored index then goes back as it came, so that it is not lost.
+    const int row = At(combo).ListIndex();
+    if (row < 0)
+        if (auto it = unshownIndex_.find(combo); it != unshownIndex_.end())
+            return static_cast<int16_t>(it->second);
+    return static_cast<int16_t>(row);
 }
 
 double DatosGen::PanelFactor() const { return decl().Unidades == 1 ? 1.0 : 0.01; }
@@ -306,18 +341,8 @@ void DatosGen::pasaMatPan()
         At("TextDia", i - 1).SetText(Formato0(d.GenDia[i]));
     for (int i = 0; i < n + m; ++i)
         At("TxCot", i).SetText(Formato00(d.GenCot[i]));
-    auto pick = [this](const char* name, int index) {
-        Control& c = At(name);
-        c.SetListIndex(index >= 0 && index < c.ListCount() ? index : -1);
-    };
-    pick("CmbHorm", d.GenHorm);
-    pick("CmbAcero", d.GenAcero);
-    pick("cmbControl", d.GenControl);
-    pick("CmbAcP", d.GenAcP);
-    pick("CmbResis", d.GenResis);
-    pick("CmbServi", d.GenServi);
-    pick("cmbCatControl", d.GenCatControl);
-    pick("CmbCatEjec", d.GenCatEjec);
+    for (const auto& [combo, index] : kMaterialLists)
+        PickStored(combo, d.*index);
     At("ChHormigon").SetCheckValue(d.GenChHormigon != 0 ? 1 : 0);
     At("ChAcero").SetCheckValue(d.GenChAcero != 0 ? 1 : 0);
     At("ChMadera").SetCheckValue(d.GenChMadera != 0 ? 1 : 0);
@@ -362,14 +387,8 @@ void DatosGen::pasaPanMat()
         d.GenDia[i + 6] = FactorDiferido(d.GenDia[i]);
     for (int i = 0; i < n + m; ++i)
         d.GenCot[i] = static_cast<float>(ValComaCopy(At("TxCot", i).Text()));
-    d.GenHorm = static_cast<int16_t>(At("CmbHorm").ListIndex());
-    d.GenAcero = static_cast<int16_t>(At("CmbAcero").ListIndex());
-    d.GenControl = static_cast<int16_t>(At("cmbControl").ListIndex());
-    d.GenAcP = static_cast<int16_t>(At("CmbAcP").ListIndex());
-    d.GenResis = static_cast<int16_t>(At("CmbResis").ListIndex());
-    d.GenServi = static_cast<int16_t>(At("CmbServi").ListIndex());
-    d.GenCatControl = static_cast<int16_t>(At("cmbCatControl").ListIndex());
-    d.GenCatEjec = static_cast<int16_t>(At("CmbCatEjec").ListIndex());
+    for (const auto& [combo, index] : kMaterialLists)
+        d.*index = StoredIndex(combo);
     auto flag = [this](const char* name) { return At(name).CheckValue() != 0 ? kTrue : kFalse; };
     d.GenChHormigon = flag("ChHormigon");
     d.GenChAcero = flag("ChAcero");
@@ -392,6 +411,10 @@ void DatosGen::Form_Load()
             c->SetListIndex(0);
     pasaMatPan();
     At("Cancelar").SetEnabled(decl().ObraNueva == kFalse);
+    // A check box's click handler runs only when its value changes, so a group stored off
+    // would stay enabled: each group follows its check box once the values are in.
+    for (const MaterialGroupDef& g : groups_)
+        ApplyMaterialGroup(g);
 }
 
 bool DatosGen::QueryUnload()
@@ -471,7 +494,10 @@ void DatosGen::Aceptar_Click()
                                      ValComaCopy(At("TextDia", 5).Text()) <= 100;
     pasaPanMat();
     std::string unused;
-    DatosFile(decl(), "datos.~ce", "G", unused);
+    // A failed write has been told by the handler of DatosFile. The report would describe data
+    // that were not stored, and unloading would drop what the user entered: neither happens.
+    if (DatosFile(decl(), "datos.~ce", "G", unused).writeFailed)
+        return;
     ListaRtf();
     if (Setting(decl(), "Preferencias", "CapturaPantallas") == "Si" && decl().Captura)
         decl().Captura(*this, ConBarra(decl().CarpetaObra) + "datos");

@@ -3,6 +3,7 @@
 // the load steps, and the materials of the work. What it holds is the work's DATOS.~CE.
 
 #include <array>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -45,6 +46,9 @@ public:
     void pasaMatPan();
     void pasaPanMat();
     void Seccion();
+    // Writes DATOS.~CE and the report, and unloads the form. When DATOS.~CE cannot be written
+    // (the user has been told, d.UltimoErrorDatos says why) the form stays loaded with its
+    // values and nothing further is written.
     void Aceptar_Click();
     void AsignaC_Click(int index);
     void cmdCatUso();
@@ -65,11 +69,27 @@ public:
 private:
     void Build();
     void EnsureRows(int floors, int basements);
+    // A material group: its check box, the index of its heading Label15 and the controls it
+    // switches on and off.
+    struct MaterialGroupDef {
+        const char* check;
+        int label;
+        std::vector<const char*> controls;
+    };
     void MaterialGroup(const char* check, int label, std::vector<const char*> controls);
+    // Heading colour and enabled state of a group's controls from its check box.
+    void ApplyMaterialGroup(const MaterialGroupDef& group);
+    // Shows a stored list index, or no row when the list has no such row.
+    void PickStored(const char* combo, int stored);
+    // The index to store for a list: its row, or the stored index it could not show.
+    int16_t StoredIndex(const char* combo) const;
     double PanelFactor() const;
     double StressFactor() const;
 
     SeccionLayout layout_;
+    std::vector<MaterialGroupDef> groups_;
+    // Stored indices that their list has no row for, by list name, as last loaded.
+    std::map<std::string, int> unshownIndex_;
 };
 
 std::unique_ptr<Form> CreaDatosGen(Declaraciones& d);

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "building/DatosGen.h"
+#include "works/Declaraciones.h"
 #include "controls/Ventanas.h"
 
 namespace vardena {
@@ -220,6 +221,9 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
     aceptar->setMinimumHeight(30);
     // The form unloads itself on accepting: the window closes behind it.
     connect(aceptar, &QPushButton::clicked, this, [this] {
+        // General data that could not be written stay on screen, so that nothing typed is lost.
+        if (!vista_->form().decl().UltimoErrorDatos.empty())
+            return;
         aceptada_ = true;
         descargada_ = true;
         close();

@@ -70,11 +70,6 @@ const DatosRefuerzo* DatosDe(Kind kind)
     return nullptr;
 }
 
-// The integer part of a quotient of two texts. The spacing a footing control writes is the
-// quotient of the width by the bars printed to 7 digits, so the bars read back from it may
-// fall a hair short of a whole number: that hair is not a bar less.
-double ParteEntera(double q) { return std::trunc(q + 1e-6 * std::fabs(q)); }
-
 class RefuerzoBehavior : public CompositeBehavior {
 public:
     explicit RefuerzoBehavior(const DatosRefuerzo& datos) : datos_(datos) {}
@@ -155,14 +150,16 @@ private:
     }
 
     // A new spacing s: the bars follow, with w the whole part of the width. No spacing above 0
-    // leaves 1 bar; per metre c = w / s, else c = (w - 10) / s + 1, whole parts.
+    // leaves 1 bar; per metre c = w / s, else c = (w - 10) / s + 1, whole parts of the quotient
+    // as the floating-point division gives it: a spacing printed to 7 digits that stands a hair
+    // above the exact one (46.66667 for 140 / 3) gives the bars that fit, one less.
     void BarrasDeSeparacion(Control& c)
     {
         const double sep = ValComaCopy(c.RawGet("Separacion"));
         const double ancho = std::trunc(std::fabs(ValComaCopy(c.RawGet("AnchoZap"))));
         double barras = 1;
         if (sep > 0)
-            barras = PorMetro(c) ? ParteEntera(ancho / sep) : ParteEntera((ancho - 10) / sep) + 1;
+            barras = PorMetro(c) ? std::trunc(ancho / sep) : std::trunc((ancho - 10) / sep) + 1;
         Escribe(c, "NumBarras", FormatoNum(barras), false);
     }
 

@@ -106,4 +106,13 @@ bool LooksLikeText(std::string_view bytes)
     return true;
 }
 
+std::optional<std::string> DataFileText(std::string_view bytes)
+{
+    while (!bytes.empty() && bytes.back() == '\x1A')
+        bytes.remove_suffix(1);
+    if (bytes.find('\0') != std::string_view::npos)
+        return std::nullopt;
+    return Cp1252ToUtf8(bytes);
+}
+
 }  // namespace vardena

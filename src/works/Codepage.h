@@ -1,6 +1,7 @@
 #pragma once
 // Files on disk are Windows-1252; inside the program text is UTF-8.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,12 @@ std::string Utf8ToCp1252(std::string_view text, int* lost = nullptr);
 // True when the bytes look like text: no NUL and no control characters other than
 // tab, CR, LF and form feed.
 bool LooksLikeText(std::string_view bytes);
+
+// The bytes of a work's data file (an element record, DATOS.~CE, DESCR.~CE) as UTF-8 text.
+// Old editors and copy programs ended text files with one or more 0x1A bytes, the end-of-file
+// mark of their time, before or after the last line end: those trailing bytes are dropped.
+// Every other byte is data and is kept, control bytes inside a value included, so that a value
+// reads and writes back unchanged. A NUL byte shows a file that is not text: nullopt.
+std::optional<std::string> DataFileText(std::string_view bytes);
 
 }  // namespace vardena

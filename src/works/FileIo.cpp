@@ -390,7 +390,7 @@ bool WorkLock::HeldHere(const std::string& folder)
 
 std::optional<WorkLock> LockForSave(const std::string& folder)
 {
-    if (WorkLock::HeldHere(folder))
+    if (folder.empty() || WorkLock::HeldHere(folder))
         return std::nullopt;
     std::optional<WorkLock> lock = WorkLock::Try(folder);
     if (!lock)

@@ -470,6 +470,8 @@ void Menu::List1_Click()
         const std::string folder = ConBarra(At("Dire").Text()) + list.SelectedText();
         const ObraInfo info = AbreObra(d, folder);
         d.DirObras = At("Dire").Text();
+        if (const std::string aviso = TextoRecuperacion(d, info); !aviso.empty())
+            d.ui.MsgBox(aviso, mb::Information, "");
         outlin.SetItems(info.contents);
         At("tachado").SetVisible(outlin.ListCount() == 0);
         if (info.hasDatos) {
@@ -583,13 +585,17 @@ void Menu::UCBconvertir_Click()
             if (ganchos.progreso)
                 ganchos.progreso(hecho, total, que);
         };
-        std::vector<std::string> list2;
+        // The hidden list keeps the names of earlier runs: the run appends to what it holds.
+        Control& lista2 = At("List2");
+        std::vector<std::string> list2 = lista2.Items();
         const ConversionLog log = Convierte(d, list2, opciones);
         ultimosRegistros = log.records;
-        At("List2").SetItems(list2);
+        lista2.SetItems(list2);
         At("List4").SetItems(log.list4);
+        // A run that did not complete has changed nothing (or will be finished at the next
+        // opening); the sentence says which, and the window goes on.
         if (!log.error.empty())
-            throw ProgramHalt(log.error);
+            d.ui.MsgBox(log.error, mb::Exclamation, d.Msg(34));
     });
     // The window reads the work again: its version now reads 3.50 and the button is off.
     List1_Click();

@@ -1,6 +1,8 @@
 #include "works/Registros.h"
 
 #include <cmath>
+#include <optional>
+#include <vector>
 
 #include "works/Catalogo.h"
 #include "works/Codepage.h"
@@ -53,11 +55,62 @@ bool PropertyBelongs(Kind k, std::string_view prop)
 
 std::string ReadRecordText(const std::string& path)
 {
-    std::string bytes = ReadFileBytes(path);
-    if (!LooksLikeText(bytes))
-        throw FileError(path, "holds bytes that are not text; it is not a record");
-    return Cp1252ToUtf8(bytes);
+    std::optional<std::string> text = DataFileText(ReadFileBytes(path));
+    if (!text)
+        throw FileError(path, "holds a NUL byte, so it is not text; it is not a record");
+    return *text;
 }
+
+// A section selector clamps the typed distance of two sections against the size it holds when
+// the distance is set, so its properties must be set in the positional order, size before
+// width, whatever order the named file gives them in. The named reader gathers the lines of
+// one selector here and sets them when the selector's lines end.
+class PendingSection {
+public:
+    void Add(Control& c, std::string prop, std::string value, int line)
+    {
+        if (control_ != &c)
+            Apply();
+        control_ = &c;
+        for (auto& v : values_)
+            if (v.prop == prop) {
+                // A property given twice: the later line counts, as it would when set in turn.
+                v.value = std::move(value);
+                v.line = line;
+                return;
+            }
+        values_.push_back({std::move(prop), std::move(value), line});
+    }
+
+    // Sets what was gathered in the order Num, Perfil, Tamano, Canto, Ancho, Area, Ix, Iy,
+    // that of the positional format for both kinds of section.
+    void Apply()
+    {
+        Control* c = control_;
+        std::vector<Value> values = std::move(values_);
+        control_ = nullptr;
+        values_.clear();
+        if (!c)
+            return;
+        for (const char* p : {"Num", "Perfil", "Tamano", "Canto", "Ancho", "Area", "Ix", "Iy"})
+            for (const Value& v : values)
+                if (v.prop == p) {
+                    try {
+                        c->Set(v.prop, v.value);
+                    } catch (const PropertyError& e) {
+                        throw FieldError(e.number(), v.line, e.what());
+                    }
+                }
+    }
+
+private:
+    struct Value {
+        std::string prop, value;
+        int line;
+    };
+    Control* control_ = nullptr;
+    std::vector<Value> values_;
+};
 
 
 }  // namespace
@@ -207,10 +260,13 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
         }
         std::string name, kindName;
         int index = -1;
+        PendingSection section;
         for (size_t ln = 1; ln < lines.size(); ++ln) {
             const std::string& line = lines[ln];
             std::string prop, value;
             if (line.find('[') != std::string::npos) {
+                // A first line ends the lines of the control before it.
+                section.Apply();
                 index = -1;
                 const std::string namePart = Palabra(1, line, "\t");
                 prop = Palabra(2, line, "\t");
@@ -240,6 +296,10 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
                 throw FieldError(730, static_cast<int>(ln) + 1,
                                  "the record names a control that form " + form.Name() + " lacks: " + label);
             }
+            if (kind == Kind::UCPerfil) {
+                section.Add(*c, p, LTrim(value), static_cast<int>(ln) + 1);
+                continue;
+            }
             try {
                 switch (kind) {
                 case Kind::TextBox: c->SetProperty("Text", value); break;
@@ -252,6 +312,7 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
                 throw FieldError(e.number(), static_cast<int>(ln) + 1, e.what());
             }
         }
+        section.Apply();
         d.UltimaLectura = 2;
         return ReadOutcome::Named;
     }, path + ": ");

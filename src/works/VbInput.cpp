@@ -51,8 +51,13 @@ FieldReader::Raw FieldReader::Next()
     if (text_[pos_] == '"') {
         size_t close = text_.find('"', pos_ + 1);
         size_t lineEnd = text_.find_first_of("\r\n", pos_ + 1);
-        if (close == std::string_view::npos || (lineEnd != std::string_view::npos && lineEnd < close))
+        if (close == std::string_view::npos || (lineEnd != std::string_view::npos && lineEnd < close)) {
+            // The open text runs to its line end: the field and its line end are consumed.
+            pos_ = lineEnd == std::string_view::npos ? text_.size() : lineEnd;
+            if (AtLineEnd())
+                SkipLineEnd();
             throw FieldError(52, startLine, "a quoted text is not closed on its line");
+        }
         r.text = std::string(text_.substr(pos_ + 1, close - pos_ - 1));
         r.quoted = true;
         pos_ = close + 1;
@@ -62,8 +67,15 @@ FieldReader::Raw FieldReader::Next()
     } else if (text_[pos_] == '#') {
         size_t close = text_.find('#', pos_ + 1);
         size_t lineEnd = text_.find_first_of("\r\n,", pos_ + 1);
-        if (close == std::string_view::npos || (lineEnd != std::string_view::npos && lineEnd < close))
+        if (close == std::string_view::npos || (lineEnd != std::string_view::npos && lineEnd < close)) {
+            // The open value runs to its delimiter, which is consumed with it.
+            pos_ = lineEnd == std::string_view::npos ? text_.size() : lineEnd;
+            if (pos_ < text_.size() && text_[pos_] == ',')
+                ++pos_;
+            else if (AtLineEnd())
+                SkipLineEnd();
             throw FieldError(13, startLine, "a value between # signs is not closed");
+        }
         r.text = std::string(text_.substr(pos_, close - pos_ + 1));
         r.hashed = true;
         pos_ = close + 1;

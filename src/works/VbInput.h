@@ -13,13 +13,16 @@ namespace vardena {
 class FieldError : public std::runtime_error {
 public:
     FieldError(int number, int line, const std::string& what)
-        : std::runtime_error("line " + std::to_string(line) + ": " + what), number_(number), line_(line) {}
+        : std::runtime_error("line " + std::to_string(line) + ": " + what), number_(number), line_(line), reason_(what) {}
     int number() const { return number_; }
     int line() const { return line_; }
+    // What was wrong, without the line.
+    const std::string& reason() const { return reason_; }
 
 private:
     int number_;
     int line_;
+    std::string reason_;
 };
 
 class FieldReader {
@@ -30,7 +33,9 @@ public:
     // True when nothing but blanks and line ends is left.
     bool AtEnd();
     // The next field as text (quotes removed, unquoted fields trimmed). Throws FieldError
-    // 62 past the end of the file and 52 for an unterminated quote.
+    // 62 past the end of the file and 52 for an unterminated quote. A field that fails is
+    // consumed all the same (a quote left open up to its line end, a "#" left open up to the
+    // next delimiter), so that a caller that goes on reads the field after it.
     std::string Text();
     // The next field as a number, read as the run time read numbers (#TRUE# is -1).
     double Number();

@@ -7,6 +7,7 @@
 #include "building/Unidades.h"
 #include "support/TestSupport.h"
 #include "works/DatosFile.h"
+#include "works/FileIo.h"
 
 namespace vardena {
 namespace {
@@ -214,6 +215,106 @@ TEST_F(GeneralDataForm, MaterialGroupsSwitchTheirControls)
     f->At("ChMadera").SetCheckValue(0);
     EXPECT_FALSE(f->At("CmbServi").Enabled());
     EXPECT_EQ(f->At("Label15", 4).RawGet("ForeColor"), std::to_string(0xC08070));
+}
+
+// Each material group follows its check box from the moment the form is loaded, whatever the
+// check box held before.
+TEST_F(GeneralDataForm, MaterialGroupsFollowTheStoredCheckBoxesOnLoad)
+{
+    struct Group {
+        int16_t Declaraciones::*flag;
+        int label;
+        std::vector<const char*> controls;
+    };
+    const std::vector<Group> groups = {
+        {&Declaraciones::GenChHormigon, 5, {"CmbHorm", "CmbAcero", "cmbControl"}},
+        {&Declaraciones::GenChAcero, 0, {"CmbAcP"}},
+        {&Declaraciones::GenChMadera, 4, {"CmbResis", "CmbServi"}},
+        {&Declaraciones::GenChFabrica, 1, {"TxResFab", "TxCoefMin", "TxtDensFabr", "cmbCatControl", "CmbCatEjec"}},
+        {&Declaraciones::GenChTerreno, 2, {"TxTens", "lbTens"}},
+    };
+    // All off, all on, and each group alone off.
+    std::vector<std::vector<bool>> cases = {std::vector<bool>(groups.size(), false), std::vector<bool>(groups.size(), true)};
+    for (size_t g = 0; g < groups.size(); ++g) {
+        cases.emplace_back(groups.size(), true);
+        cases.back()[g] = false;
+    }
+    for (const auto& on : cases) {
+        test::TestApp stored;
+        stored.decl.CarpetaObra = dir.path();
+        for (size_t g = 0; g < groups.size(); ++g)
+            stored.decl.*groups[g].flag = on[g] ? kTrue : kFalse;
+        std::string text;
+        DatosFile(stored.decl, "DATOS.~CE", "G", text);
+        ASSERT_FALSE(DatosFile(app.decl, "DATOS.~CE", "L", text).damaged);
+        auto f = Load();
+        for (size_t g = 0; g < groups.size(); ++g) {
+            for (const char* name : groups[g].controls)
+                EXPECT_EQ(f->At(name).Enabled(), on[g]) << name;
+            EXPECT_EQ(f->At("Label15", groups[g].label).RawGet("ForeColor"), std::to_string(on[g] ? 0x70050B : 0xC08070))
+                << groups[g].label;
+        }
+    }
+}
+
+// A stored list index that the form's list has no row for goes back to the file unchanged.
+TEST_F(GeneralDataForm, ListIndicesOutsideTheListsAreWrittenBackAsStored)
+{
+    struct Row {
+        int16_t Declaraciones::*index;
+        int16_t value;
+    };
+    const std::vector<Row> rows = {
+        {&Declaraciones::GenHorm, 40},     {&Declaraciones::GenAcero, 2},   {&Declaraciones::GenControl, 3},
+        {&Declaraciones::GenAcP, 6},       {&Declaraciones::GenResis, 19},  {&Declaraciones::GenServi, -2},
+        {&Declaraciones::GenCatControl, 9}, {&Declaraciones::GenCatEjec, 100},
+    };
+    test::TestApp stored;
+    stored.decl.CarpetaObra = dir.path();
+    for (const Row& r : rows)
+        stored.decl.*r.index = r.value;
+    test::WriteDiskText(dir / "DATOS.~CE", DatosText(stored.decl, 3.01));
+    std::string text;
+    DatosFile(app.decl, "DATOS.~CE", "L", text);
+    auto f = Load();
+    EXPECT_EQ(f->At("CmbHorm").ListIndex(), -1);
+    f->Aceptar_Click();
+
+    test::TestApp back;
+    back.decl.CarpetaObra = dir.path();
+    DatosFile(back.decl, "DATOS.~CE", "L", text);
+    EXPECT_FLOAT_EQ(back.decl.VersionObra, 3.5f);
+    for (const Row& r : rows)
+        EXPECT_EQ(back.decl.*r.index, r.value);
+
+    // A row the user picks replaces the stored index.
+    auto g = Load();
+    g->At("CmbHorm").SetListIndex(2);
+    g->Aceptar_Click();
+    DatosFile(back.decl, "DATOS.~CE", "L", text);
+    EXPECT_EQ(back.decl.GenHorm, 2);
+    EXPECT_EQ(back.decl.GenCatEjec, 100);
+}
+
+// A failed write of DATOS.~CE is told once; the form writes nothing further and stays loaded.
+TEST_F(GeneralDataForm, AFailedWriteLeavesTheFormLoadedAndWritesNoReport)
+{
+    app.decl.ObraNueva = kTrue;
+    auto f = Load();
+    const FileSystemSeam old = SetFileSystemSeam({[](const std::string&, std::string_view) { return false; }, {}});
+    EXPECT_NO_THROW(f->Aceptar_Click());
+    SetFileSystemSeam(old);
+    EXPECT_FALSE(app.decl.UltimoErrorDatos.empty());
+    EXPECT_FALSE(FindNoCase(dir.path(), "DATOS.~CE"));
+    EXPECT_FALSE(FindNoCase(dir.path(), "Datos.lCE"));
+    ASSERT_EQ(app.ui.boxes.size(), 1u);
+    EXPECT_EQ(app.ui.boxes[0].style, mb::Critical);
+    EXPECT_EQ(app.decl.ObraNueva, kTrue) << "the form was not unloaded";
+
+    f->Aceptar_Click();
+    EXPECT_TRUE(app.decl.UltimoErrorDatos.empty());
+    EXPECT_TRUE(FindNoCase(dir.path(), "DATOS.~CE"));
+    EXPECT_EQ(app.decl.ObraNueva, kFalse);
 }
 
 // Unit conversion of the load fields of an element form.

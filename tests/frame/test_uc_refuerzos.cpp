@@ -152,22 +152,51 @@ TEST_F(Zapatas, RuleTable)
     EXPECT_EQ(cambios, 0);
 }
 
-// A spacing printed from a quotient reads back to the bars it came from, though the quotient
-// of the width by that text falls a hair short of a whole number.
-TEST_F(Zapatas, ASpacingWrittenFromBarsReadsBackToTheSameBars)
+// A new spacing gives the integer part of the quotient as the division gives it, plus 1 when
+// not per metre: nothing is added to the quotient first. A spacing that stands a hair above an
+// exact division gives one bar less; exact multiples give their whole number, also where the
+// decimal spacing has no exact binary form, and the one quotient that falls below its whole
+// number in floating point (140 / 1.12) takes the bar count of that quotient.
+TEST_F(Zapatas, BarsFromASpacingAreTheIntegerPartOfTheQuotient)
 {
-    for (bool porMetro : {false, true})
-        for (int barras = 2; barras <= 40; ++barras) {
-            Control& a = Nuevo(Kind::UCZapatas, "UCZapA");
-            a.Set("Por_metro", porMetro ? "True" : "False");
-            a.Set("NumBarras", "1");
-            a.Set("NumBarras", std::to_string(barras));
-            Control& b = Nuevo(Kind::UCZapatas, "UCZapB");
-            b.Set("Por_metro", porMetro ? "True" : "False");
-            b.Set("Separacion", "1");
-            b.Set("Separacion", a.Get("Separacion"));
-            EXPECT_EQ(b.Get("NumBarras"), std::to_string(barras)) << a.Get("Separacion") << " per metre " << porMetro;
-        }
+    struct Row {
+        bool porMetro;
+        const char* ancho;
+        const char* separacion;
+        const char* barras;
+    };
+    const std::vector<Row> rows = {
+        {false, "150", "46.66667", "3"},   // 140 / 46.66667 = 2.9999998
+        {false, "150", "14.00001", "10"},  // 9.9999929
+        {false, "150", "14", "11"},
+        {false, "150", "17.5", "9"},
+        {false, "150", "35", "5"},
+        {false, "150", "140", "2"},
+        {false, "150", "0.7", "201"},
+        {false, "150", "2.8", "51"},
+        {false, "150", "1.12", "125"},  // 124.99999999999999 in double
+        {false, "150", "17,5", "9"},
+        {false, "150.9", "28", "6"},    // the width is taken whole
+        {false, "110", "0.1", "1001"},
+        {true, "100", "12.5", "8"},
+        {true, "100", "0.1", "1000"},
+        {true, "100", "33.33333", "3"},
+        {true, "100", "33.33334", "2"},  // 2.9999994
+        {true, "100", "16.66667", "5"},  // 5.9999988
+        {true, "100", "25", "4"},
+    };
+    int n = 0;
+    for (const Row& r : rows) {
+        SCOPED_TRACE(std::string(r.ancho) + " / " + r.separacion + (r.porMetro ? " per metre" : ""));
+        Control& z = Nuevo(Kind::UCZapatas, "UCZap" + std::to_string(++n));
+        z.Set("Por_metro", r.porMetro ? "True" : "False");
+        z.Set("NumBarras", "1");
+        z.Set("AnchoZap", r.ancho);
+        z.Set("Separacion", "1");
+        z.Set("Separacion", r.separacion);
+        EXPECT_EQ(z.Get("NumBarras"), r.barras);
+        EXPECT_EQ(z.Get("Separacion"), r.separacion);
+    }
 }
 
 // The values the control writes itself do not run its own rule back: without the guard the
@@ -226,7 +255,7 @@ TEST_F(Zapatas, RecordReadsKeepTheSpacingAndFollowTheRule)
         {"disagreeing spacing wins", false, {"8", "12", "25"}, {"6", "12", "25"}},
         {"per metre 20 means 7 bars", true, {"8", "12", "20"}, {"7", "12", "20"}},
         {"a spacing the control printed", false, {"4", "16 ", "46.66667"}, {"4", "16 ", "46.66667"}},
-        {"a longer print of the same spacing", false, {"4", "16 ", "46.6666666666667"}, {"4", "16 ", "46.6666666666667"}},
+        {"a longer print of 140 / 3 stands above it", false, {"4", "16 ", "46.6666666666667"}, {"3", "16 ", "46.6666666666667"}},
         {"one bar", false, {"1", "10", "30"}, {"5", "10", "30"}},
     };
     for (const Row& r : rows) {

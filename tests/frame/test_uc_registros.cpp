@@ -177,5 +177,51 @@ TEST_F(UCRegistros, ADoubleSectionReadsBackAtLeastTwiceItsWidth)
     EXPECT_EQ(p.Get("Tamano"), "80");
 }
 
+// The named format writes a selector's .Ancho before its .Tamano or .Canto; the named reader
+// sets them in the positional order all the same, so that a double section's typed distance
+// is clamped against its own size and not against the size the selector held before. Each
+// section read from a version 3 line, written in the named format and read back, into a fresh
+// form and into one that held a wide double section, keeps every value.
+TEST_F(UCRegistros, SectionsReadTheSameFromBothFormats)
+{
+    struct Row {
+        const char* linea;  // the selector's positional line
+        const char* ancho;  // its Ancho once read
+    };
+    const std::vector<Row> rows = {
+        {"\"UCPerfil1\",\"2\",\"UPN\",\"80\",\"9.5\"", "9.5"},
+        {"\"UCPerfil1\",\"2\",\"IPE\",\"80\",\"9.5\"", "9.5"},
+        {"\"UCPerfil1\",\"2\",\"UPN\",\"80\",\"5\"", "9.0"},
+        {"\"UCPerfil1\",\"2\",\"HEB\",\"300\",\"70\"", "70.0"},
+        {"\"UCPerfil1\",\"2\",\"HEA\",\"100\",\"15\"", "20.0"},
+        {"\"UCPerfil1\",\"1\",\"IPE\",\"100\",\"8\"", "5.5"},
+        {"\"UCPerfil1\",\"2\",\"otro\",\"30\",\"15\",\"45.5\",\"4000\",\"300\"", "15"},
+        {"\"UCPerfil1\",\"1\",\"xxx\",\"22,5\",\"9\",\"20\",\"1500\",\"120\"", "9"},
+    };
+    const std::string viejo = "\"UCPerfil1\",\"1\",\"IPE\",\"100\",\"8\"";
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.linea);
+        std::string texto = kPosicional;
+        texto.replace(texto.find(viejo), viejo.size(), r.linea);
+        const std::string posicional = dir / "p.~ZC";
+        test::WriteDiskText(posicional, texto);
+        auto leido = Lee(posicional, ReadOutcome::Positional);
+        EXPECT_EQ(leido->At("UCPerfil1").Get("Ancho"), r.ancho);
+        const std::string nombrado = dir / "n.~ZC";
+        FormGuardaFile2(*leido, nombrado);
+        const std::vector<std::string> esperado = Valores(*leido);
+        EXPECT_EQ(Valores(*Lee(nombrado, ReadOutcome::Named)), esperado);
+
+        auto ocupado = MakeForm(app.decl);
+        Control& ancho = ocupado->At("UCPerfil1");
+        ancho.Set("Num", "2");
+        ancho.Set("Perfil", "HEM");
+        ancho.Set("Tamano", "1000");
+        ancho.Set("Ancho", "80");
+        EXPECT_EQ(FormLeeFile(*ocupado, nombrado), ReadOutcome::Named);
+        EXPECT_EQ(NamedText(*ocupado), NamedText(*leido));
+    }
+}
+
 }  // namespace
 }  // namespace vardena

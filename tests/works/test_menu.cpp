@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "frame/Formularios.h"
@@ -118,6 +119,31 @@ TEST(Menu, ConvertingAWorkRewritesItsRecordsAndTurnsTheButtonOff)
     EXPECT_GT(m.menu.At("List2").ListCount(), 0);
     ASSERT_FALSE(m.app.ui.boxes.empty());
     EXPECT_EQ(m.app.ui.boxes.back().style, mb::Information);
+}
+
+// The hidden list of names is never cleared: a second run appends the names of its folder to
+// those of the first.
+TEST(Menu, EachConversionAppendsItsNamesToTheHiddenList)
+{
+    MenuDePrueba m("Local Arce");
+    m.menu.At("UCBconvertir").Click();
+    const std::vector<std::string> primera = m.menu.At("List2").Items();
+    ASSERT_FALSE(primera.empty());
+    EXPECT_NE(std::find(primera.begin(), primera.end(), "Elemento SI.~HJ"), primera.end());
+
+    std::vector<std::string> esperado = primera;
+    std::vector<std::string> segunda;
+    for (const auto& e : fs::directory_iterator(m.Obra("Edificio Oroel")))
+        segunda.push_back(e.path().filename().string());
+    SortNoCase(segunda);
+    esperado.insert(esperado.end(), segunda.begin(), segunda.end());
+
+    SeleccionaEnLista(m.menu.At("List1"), "Edificio Oroel");
+    m.menu.List1_Click();
+    ASSERT_TRUE(m.menu.At("UCBconvertir").Enabled());
+    m.menu.At("UCBconvertir").Click();
+    EXPECT_EQ(m.menu.At("Lbvers").Caption(), "3.50");
+    EXPECT_EQ(m.menu.At("List2").Items(), esperado);
 }
 
 TEST(Menu, AnEmptyDescriptionShowsThePlaceholderAndIsNotSaved)

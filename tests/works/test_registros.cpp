@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/TestSupport.h"
+#include "works/FileIo.h"
 #include "works/Form.h"
 #include "works/Registros.h"
 
@@ -287,6 +288,60 @@ TEST_F(Records, AFirstNameThatDiffersIsTakenForANamedFile)
     // The named reader then refuses it: no version line.
     EXPECT_EQ(FormLeeFile(*f, dir / "o.~ZC"), ReadOutcome::Refused);
     EXPECT_EQ(app.ui.boxes.size(), 1u);
+}
+
+// Old editors closed text files with 0x1A bytes: a record that ends in them reads as without
+// them, in both formats, and converts.
+TEST_F(Records, TrailingEndOfFileMarksAreDropped)
+{
+    auto original = MakeForm(app.decl);
+    FillDistinct(*original);
+    const std::string positional = ToDiskText(PositionalText(*original));
+    const std::string named = ToDiskText(NamedText(*original));
+    struct Row {
+        const char* name;
+        std::string bytes;
+        ReadOutcome outcome;
+    };
+    const std::vector<Row> rows = {
+        {"after the last line end", positional + "\x1A", ReadOutcome::Positional},
+        {"several", positional + "\x1A\x1A\x1A", ReadOutcome::Positional},
+        {"right after the last value", positional.substr(0, positional.size() - 2) + "\x1A", ReadOutcome::Positional},
+        {"a named record", named + "\x1A\x1A", ReadOutcome::Named},
+    };
+    for (const auto& r : rows) {
+        SCOPED_TRACE(r.name);
+        test::WriteBytes(dir / "z.~ZC", r.bytes);
+        auto f = MakeForm(app.decl);
+        EXPECT_EQ(FormLeeFile(*f, dir / "z.~ZC"), r.outcome);
+        ExpectSameValues(*original, *f);
+        FormGuardaFile2(*f, dir / "z2.~ZC");
+        EXPECT_EQ(test::ReadBytes(dir / "z2.~ZC"), named);
+    }
+    EXPECT_TRUE(app.ui.errors.empty());
+}
+
+// Control bytes other than the line ends inside a value are data: they read and write back
+// unchanged through both formats.
+TEST_F(Records, ControlBytesInsideAValueRoundTrip)
+{
+    for (const std::string value : {"a\x01" "b", "esc\x1b[1m", "fin\x1A medio", "\x02\x03\x1f\x7f", "\x0b\x0c"}) {
+        SCOPED_TRACE(testing::PrintToString(value));
+        auto original = MakeForm(app.decl);
+        FillDistinct(*original);
+        original->At("TxtQ", 0).SetText(value);
+        original->At("txtTitulo").SetText("t" + value);
+        FormGuardaFile(*original, dir / "c.~ZC");
+        auto fromPositional = MakeForm(app.decl);
+        EXPECT_EQ(FormLeeFile(*fromPositional, dir / "c.~ZC"), ReadOutcome::Positional);
+        ExpectSameValues(*original, *fromPositional);
+        FormGuardaFile2(*fromPositional, dir / "c2.~ZC");
+        EXPECT_NE(test::ReadBytes(dir / "c2.~ZC").find("TxtQ(0) [TextBox]\t.Text\t" + value + "\r\n"), std::string::npos);
+        auto fromNamed = MakeForm(app.decl);
+        EXPECT_EQ(FormLeeFile(*fromNamed, dir / "c2.~ZC"), ReadOutcome::Named);
+        ExpectSameValues(*original, *fromNamed);
+    }
+    EXPECT_TRUE(app.ui.errors.empty());
 }
 
 }  // namespace

@@ -330,9 +330,11 @@ int CmdForm(Aplicacion& app, const std::vector<std::string>& args)
             return Fail(problema);
         if (p.pulsa) {
             d.UltimoGuardadoRechazado.clear();
+            d.UltimoErrorDatos.clear();
             c->Click();
-            // A save the form refused has told why on standard error; nothing was written.
-            if (!d.UltimoGuardadoRechazado.empty())
+            // A save the form refused, or general data that could not be written, has told why
+            // on standard error; nothing was written.
+            if (!d.UltimoGuardadoRechazado.empty() || !d.UltimoErrorDatos.empty())
                 return kFailure;
             continue;
         }
