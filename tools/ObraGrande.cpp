@@ -8,8 +8,8 @@
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Registros.h"
 
 namespace vardena::muestras {

@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "building/Unidades.h"
-#include "shell/LngPack.h"
+#include "works/LngPack.h"
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
 #include "works/Declaraciones.h"
 #include "works/Subrut.h"
-#include "works/VbFormat.h"
+#include "base/VbFormat.h"
 
 namespace vardena {
 namespace {

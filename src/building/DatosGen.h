@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 

@@ -4,7 +4,7 @@
 #include "reports/mRtf.h"
 #include "works/Declaraciones.h"
 #include "works/Subrut.h"
-#include "works/VbFormat.h"
+#include "base/VbFormat.h"
 
 namespace vardena {
 

@@ -1,9 +1,9 @@
 #include "building/SistUnid.h"
 
 #include "building/Unidades.h"
-#include "shell/LngPack.h"
-#include "works/Arranque.h"
+#include "works/LngPack.h"
 #include "works/Declaraciones.h"
+#include "works/VentanaError.h"
 
 namespace vardena {
 

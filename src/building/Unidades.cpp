@@ -1,7 +1,7 @@
 #include "building/Unidades.h"
 
 #include "works/Declaraciones.h"
-#include "works/Form.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
 
 namespace vardena {

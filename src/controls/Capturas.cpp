@@ -7,8 +7,8 @@
 
 #include "controls/Programa.h"
 #include "controls/UiQt.h"
-#include "works/Aplicacion.h"
-#include "works/FileIo.h"
+#include "application/Aplicacion.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
 
 namespace vardena {

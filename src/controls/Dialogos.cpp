@@ -10,8 +10,8 @@
 
 #include "building/SistUnid.h"
 #include "controls/Ventanas.h"
-#include "shell/LngPack.h"
-#include "works/Mantenimiento.h"
+#include "works/LngPack.h"
+#include "application/Mantenimiento.h"
 
 namespace vardena {
 namespace {

@@ -21,9 +21,9 @@
 
 #include "building/DatosGen.h"
 #include "frame/Formularios.h"
-#include "shell/linux/Ventanas.h"
-#include "works/Aplicacion.h"
-#include "works/Arranque.h"
+#include "shell/Ventanas.h"
+#include "application/Aplicacion.h"
+#include "application/Arranque.h"
 #include "works/Catalogo.h"
 
 namespace vardena {

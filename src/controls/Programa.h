@@ -10,7 +10,7 @@
 
 #include "controls/Ventanas.h"
 #include "controls/Vista.h"
-#include "works/Menu.h"
+#include "application/Menu.h"
 
 class QProgressBar;
 class QStackedWidget;

@@ -15,7 +15,7 @@
 #include "controls/Vista.h"
 #include "works/Catalogo.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
 
 namespace vardena {

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "shell/InfoSistema.h"
-#include "works/Ui.h"
+#include "works/InfoSistema.h"
+#include "base/Ui.h"
 
 class QPlainTextEdit;
 class QPushButton;

@@ -15,7 +15,7 @@
 #include "controls/Ventanas.h"
 #include "frame/ControlesVisibles.h"
 #include "frame/ElementForm.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "controls/Vista.h"
-#include "works/Form.h"
+#include "base/Form.h"
 
 class QStackedWidget;
 class QPushButton;

@@ -19,7 +19,7 @@
 #include "controls/Compuestos.h"
 #include "reports/RtfLector.h"
 #include "works/Declaraciones.h"
-#include "works/Ui.h"
+#include "base/Ui.h"
 
 namespace vardena {
 

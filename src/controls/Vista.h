@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 class QLabel;
 class QComboBox;

@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 

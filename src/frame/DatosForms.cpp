@@ -9,8 +9,8 @@
 
 #include "frame/DatosForms.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
 
 namespace vardena {

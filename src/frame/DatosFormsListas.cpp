@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "frame/DatosForms.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 
 namespace vardena {
 namespace {

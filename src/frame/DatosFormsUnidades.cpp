@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "frame/DatosForms.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 
 namespace vardena {
 namespace {

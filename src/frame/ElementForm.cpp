@@ -4,15 +4,15 @@
 #include "frame/ControlesVisibles.h"
 #include "frame/DatosForms.h"
 #include "frame/Refuerzos.h"
-#include "shell/LngPack.h"
+#include "works/LngPack.h"
 #include "works/Catalogo.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
 #include "works/VentanaError.h"
-#include "works/VbFormat.h"
-#include "works/VbInput.h"
+#include "base/VbFormat.h"
+#include "base/VbInput.h"
 
 namespace vardena {
 namespace {

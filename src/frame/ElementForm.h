@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "frame/Campos.h"
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 

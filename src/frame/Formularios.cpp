@@ -6,8 +6,8 @@
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 
 namespace vardena {
 namespace {

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 

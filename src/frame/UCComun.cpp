@@ -1,7 +1,7 @@
 #include "frame/UCComun.h"
 
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
 
 namespace vardena {

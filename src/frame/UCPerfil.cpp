@@ -6,10 +6,10 @@
 
 #include "frame/CatalogoPerfiles.h"
 #include "frame/UCComun.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
-#include "works/Ui.h"
+#include "base/Ui.h"
 
 namespace vardena {
 namespace {

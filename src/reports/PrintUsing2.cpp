@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "works/VbFormat.h"
+#include "base/VbFormat.h"
 
 namespace vardena {
 namespace {

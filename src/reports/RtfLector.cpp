@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 
 namespace vardena {
 namespace {

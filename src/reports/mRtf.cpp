@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <utility>
 
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Ui.h"
+#include "base/FileIo.h"
+#include "base/Ui.h"
 
 namespace vardena {
 namespace {

@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+
+#include "shell/cQueryReg.h"
 #include <string_view>
 #include <vector>
 
@@ -107,6 +109,7 @@ struct GuiHooks {
 // The services of a running program, owned by the application.
 struct Platform {
     std::unique_ptr<SettingsStore> settings;
+    std::unique_ptr<cQueryReg> registry;
     std::unique_ptr<RecycleBin> recycleBin;
     std::unique_ptr<ShellOpen> shell;
     std::unique_ptr<SystemInfo> system;

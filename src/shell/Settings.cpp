@@ -3,8 +3,8 @@
 #include <string>
 
 #include "shell/Platform.h"
-#include "works/Codepage.h"
-#include "works/FileIo.h"
+#include "base/Codepage.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 

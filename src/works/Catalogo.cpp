@@ -4,8 +4,8 @@
 #include <filesystem>
 
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
 
 namespace vardena {

@@ -4,11 +4,11 @@
 #include <optional>
 
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
-#include "works/VbInput.h"
+#include "base/VbInput.h"
 
 namespace vardena {
 namespace {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "shell/Platform.h"
-#include "works/Ui.h"
+#include "base/Ui.h"
 
 namespace vardena {
 

@@ -5,7 +5,7 @@
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
 
 namespace vardena {

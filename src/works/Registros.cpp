@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
-#include "works/VbInput.h"
+#include "base/VbInput.h"
 #include "works/VentanaError.h"
 
 namespace vardena {

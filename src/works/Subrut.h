@@ -1,6 +1,6 @@
 #pragma once
-// The shared routines of every form: number reading and formatting, text cutting, paths,
-// list filling and the material tables.
+// The shared routines of every form that read the shared state: messages, titles, list
+// filling and the material tables. The number, text and path routines are in base/Texto.h.
 
 #include <cstdint>
 #include <initializer_list>
@@ -8,39 +8,15 @@
 #include <string>
 #include <string_view>
 
+#include "base/Texto.h"
+
 namespace vardena {
 
 struct Declaraciones;
 class Control;
 class Form;
 
-// ---- Numbers and number text ----
-
-// The one number parser: replaces the first "," of `text` by "." (in the caller's text) and
-// reads the longest leading number. Blanks are skipped, "." is always the decimal point, an
-// exponent is taken, and a text with no number gives 0.
-double ValComa(std::string& text);
-// The same on a copy, for callers that must not see their text changed.
-double ValComaCopy(std::string_view text);
-
-std::string Formato0(double v);
-std::string Formato0_0(double v);
-std::string Formato00(double v);
-// Single-precision numbers print from their 7-digit decimal value, as the run time did.
-std::string Formato0(float v);
-std::string Formato0_0(float v);
-std::string Formato00(float v);
-// "0.00" with "." as decimal mark: the format of version numbers.
-std::string Formato00Punto(double v);
-// The plain text of a number (the sign blank cut off, "0" before a leading ".").
-std::string FormatoNum(float v);
-std::string FormatoNum(double v);
-
-// Rounds halves away from zero to `decimals` places.
-double Redondea(double v, int decimals = 0);
-double Maximo3(double a, double b, double c);
-
-// ---- Text and paths ----
+// ---- Messages and titles ----
 
 // Message `n` of the message table with "%1", "%2"... replaced by `args`. A message the pack
 // lacks still says its number and its arguments.
@@ -50,18 +26,6 @@ std::string Mensaje(const Declaraciones& d, int n, std::initializer_list<std::st
 // control character, more than 255 bytes on disk, a name the program keeps for itself), as a
 // phrase of the message table; "" when it can.
 std::string TituloInvalido(const Declaraciones& d, std::string_view title);
-
-// The n-th token (from 1) of `text`; runs of the separator never make an empty token.
-std::string Palabra(int n, std::string_view text, std::string_view sep = " ");
-// Replaces every occurrence of the first character of `a` by the first character of `b`.
-std::string CambiaCar(std::string_view text, std::string_view a, std::string_view b);
-
-// The folder separator of this platform; the program's paths are built with it.
-inline constexpr char kSep = '/';
-std::string ConBarra(std::string_view path);
-std::string CarpetaDe(std::string_view path);
-std::string ArchivoDe(std::string_view path);
-std::string AcortaRuta(std::string_view path, int n);
 
 // ---- Lists and forms ----
 

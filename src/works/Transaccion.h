@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 

@@ -3,17 +3,23 @@
 // "Reintentar" runs the handler again, any other answer ends the program with the failure's text.
 
 #include <string>
+#include <string_view>
 
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
-#include "works/VbInput.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
+#include "base/VbInput.h"
 
 namespace vardena {
 
-// `prefijo` goes before the text of failures that do not name their file themselves.
+// Runs a handler's body; a run-time failure in it (a bad property, a field that cannot be
+// read, a file that cannot be written, any other std::exception except ProgramHalt) shows the
+// error window under `origen`, and ErrorOrigen carries the handler's name out and the answer
+// back ("Retry" or "Ok"). "Reintentar" runs the body again; any other answer ends the program
+// by throwing ProgramHalt. `prefijo` goes before the text of failures that do not name their
+// file themselves.
 template <typename Fn>
-auto ConVentanaError(Declaraciones& d, const char* origen, Fn cuerpo, const std::string& prefijo = {})
+auto ConVentanaError(Declaraciones& d, std::string_view origen, Fn cuerpo, const std::string& prefijo = {})
     -> decltype(cuerpo())
 {
     for (;;) {
@@ -21,6 +27,8 @@ auto ConVentanaError(Declaraciones& d, const char* origen, Fn cuerpo, const std:
         std::string descripcion;
         try {
             return cuerpo();
+        } catch (const ProgramHalt&) {
+            throw;
         } catch (const PropertyError& e) {
             numero = e.number();
             descripcion = prefijo + e.what();
@@ -30,9 +38,14 @@ auto ConVentanaError(Declaraciones& d, const char* origen, Fn cuerpo, const std:
         } catch (const FileError& e) {
             numero = 75;
             descripcion = e.what();
+        } catch (const std::exception& e) {
+            numero = 5;
+            descripcion = prefijo + e.what();
         }
-        d.ErrorOrigen = origen;
-        if (!d.ui.ErrorFrm(origen, numero, descripcion))
+        d.ErrorOrigen = std::string(origen);
+        const bool reintenta = d.ui.ErrorFrm(origen, numero, descripcion);
+        d.ErrorOrigen = reintenta ? "Retry" : "Ok";
+        if (!reintenta)
             throw ProgramHalt(descripcion);
     }
 }

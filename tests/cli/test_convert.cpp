@@ -10,13 +10,13 @@
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
-#include "works/FileIo.h"
-#include "works/Conversion.h"
-#include "works/Form.h"
+#include "base/Codepage.h"
+#include "base/FileIo.h"
+#include "application/Conversion.h"
+#include "base/Form.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
-#include "works/VbInput.h"
+#include "base/VbInput.h"
 
 namespace vardena {
 namespace {

@@ -8,9 +8,9 @@
 #include <set>
 
 #include "frame/ControlesVisibles.h"
-#include "shell/LngPack.h"
+#include "works/LngPack.h"
 #include "test_forms_comun.h"
-#include "works/Aplicacion.h"
+#include "application/Aplicacion.h"
 #include "works/Registros.h"
 
 namespace vardena::test {

@@ -7,9 +7,9 @@
 #include "frame/DatosForms.h"
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
-#include "works/Form.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
-#include "works/Ui.h"
+#include "base/Ui.h"
 
 namespace vardena {
 namespace {

@@ -9,8 +9,8 @@
 #include "frame/Campos.h"
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
-#include "works/Form.h"
-#include "works/FileIo.h"
+#include "base/Form.h"
+#include "base/FileIo.h"
 
 namespace vardena::test {
 

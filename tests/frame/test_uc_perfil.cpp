@@ -9,9 +9,9 @@
 #include "frame/Refuerzos.h"
 #include "frame/UCPerfil.h"
 #include "support/TestSupport.h"
-#include "works/Form.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
-#include "works/Ui.h"
+#include "base/Ui.h"
 
 namespace vardena {
 namespace {

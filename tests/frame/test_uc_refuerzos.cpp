@@ -7,7 +7,7 @@
 
 #include "frame/Refuerzos.h"
 #include "support/TestSupport.h"
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 namespace {

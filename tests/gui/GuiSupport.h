@@ -10,7 +10,7 @@
 
 #include "controls/Programa.h"
 #include "support/TestSupport.h"
-#include "works/Aplicacion.h"
+#include "application/Aplicacion.h"
 
 class QLineEdit;
 class QWidget;

@@ -18,8 +18,8 @@
 #include "frame/ElementForm.h"
 #include "gui/GuiSupport.h"
 #include "works/Catalogo.h"
-#include "works/Conversion.h"
-#include "works/FileIo.h"
+#include "application/Conversion.h"
+#include "base/FileIo.h"
 
 namespace vardena::test {
 namespace {

@@ -22,7 +22,7 @@
 #include "gui/GuiSupport.h"
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena::test {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/InfoSistema.h"
+#include "works/InfoSistema.h"
 #include "support/TestSupport.h"
 
 namespace vardena::test {

@@ -9,11 +9,11 @@
 #include <gtest/gtest.h>
 
 #include "frame/Formularios.h"
-#include "shell/LngPack.h"
+#include "works/LngPack.h"
 #include "support/TestSupport.h"
-#include "works/Aplicacion.h"
+#include "application/Aplicacion.h"
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 #include "works/Subrut.h"
 
 namespace vardena {

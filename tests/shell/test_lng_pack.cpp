@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/LngPack.h"
+#include "works/LngPack.h"
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

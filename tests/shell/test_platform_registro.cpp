@@ -17,7 +17,7 @@ using test::WriteBytes;
 
 struct RegFixture : ::testing::Test {
     ScratchDir dir;
-    cQueryReg reg{dir / "Registro.reg"};
+    cQueryRegLinux reg{dir / "Registro.reg"};
 };
 
 TEST(cQueryRegRoots, ShortAndLongRootNames)
@@ -54,13 +54,13 @@ TEST(cQueryRegRoots, ShortAndLongRootNames)
     for (const auto& r : rows) {
         RaizReg root = RaizReg::CurrentUser;
         std::string sub;
-        ASSERT_EQ(cQueryReg::RaizDe(r.key, root, sub), r.ok) << r.key;
+        ASSERT_EQ(cQueryRegLinux::RaizDe(r.key, root, sub), r.ok) << r.key;
         if (!r.ok)
             continue;
         EXPECT_EQ(root, r.root) << r.key;
         EXPECT_EQ(sub, r.subkey) << r.key;
     }
-    EXPECT_EQ(cQueryReg::NombreRaiz(RaizReg::DynData), "HKEY_DYN_DATA");
+    EXPECT_EQ(cQueryRegLinux::NombreRaiz(RaizReg::DynData), "HKEY_DYN_DATA");
 }
 
 TEST_F(RegFixture, ShortAndLongNamesReachTheSameKey)
@@ -97,7 +97,7 @@ TEST_F(RegFixture, ValueTextsByKind)
     for (const auto& r : rows)
         ASSERT_TRUE(reg.SetReg("HKCU\\Valores", r.name, r.text, r.type)) << r.name;
     // A second object reads the file again: what it shows went through the disk.
-    cQueryReg again(reg.file());
+    cQueryRegLinux again(reg.file());
     for (const auto& r : rows)
         EXPECT_EQ(again.GetReg("HKCU\\Valores", r.name), r.shown) << r.name;
     EXPECT_EQ(again.GetRegDWord("HKCU\\Valores", "Dword"), 255u);
@@ -274,8 +274,8 @@ TEST(cQueryRegFile, LivesBesideTheSettings)
 {
     ScratchDir dir;
     EnvVar settings("VARDENA_SETTINGS", dir / "conf/Vardena 3.ini");
-    EXPECT_EQ(cQueryReg::DefaultPath(), dir / "conf/Registro.reg");
-    cQueryReg reg;
+    EXPECT_EQ(cQueryRegLinux::DefaultPath(), dir / "conf/Registro.reg");
+    cQueryRegLinux reg;
     ASSERT_TRUE(reg.RegSetValue2("HKCU\\a", "b", "c"));
     EXPECT_TRUE(fs::exists(dir / "conf/Registro.reg"));
 }

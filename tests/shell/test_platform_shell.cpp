@@ -5,12 +5,12 @@
 #include <thread>
 
 #include "shell/linux/Abridor.h"
-#include "shell/linux/ModIcono.h"
+#include "shell/ModIcono.h"
 #include "shell/linux/Papelera.h"
-#include "shell/linux/Ventanas.h"
+#include "shell/Ventanas.h"
 #include "support/TestSupport.h"
 #include "test_platform_env.h"
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 namespace {

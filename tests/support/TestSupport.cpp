@@ -7,8 +7,8 @@
 #include <sys/wait.h>
 
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
-#include "works/FileIo.h"
+#include "base/Codepage.h"
+#include "base/FileIo.h"
 
 namespace vardena::test {
 

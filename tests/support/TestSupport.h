@@ -9,8 +9,8 @@
 
 #include "shell/Platform.h"
 #include "works/Declaraciones.h"
-#include "works/Form.h"
-#include "works/Ui.h"
+#include "base/Form.h"
+#include "base/Ui.h"
 
 namespace vardena::test {
 

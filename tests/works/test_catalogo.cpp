@@ -4,7 +4,7 @@
 
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

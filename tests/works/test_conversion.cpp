@@ -8,9 +8,9 @@
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
-#include "works/Conversion.h"
+#include "application/Conversion.h"
 #include "works/DatosFile.h"
-#include "works/Form.h"
+#include "base/Form.h"
 #include "works/Registros.h"
 
 namespace vardena {

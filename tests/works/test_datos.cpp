@@ -7,7 +7,7 @@
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Obra.h"
 
 namespace vardena {

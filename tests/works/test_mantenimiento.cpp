@@ -7,9 +7,9 @@
 #include <functional>
 
 #include "support/TestSupport.h"
-#include "works/FileIo.h"
-#include "works/Mantenimiento.h"
-#include "works/Menu.h"
+#include "base/FileIo.h"
+#include "application/Mantenimiento.h"
+#include "application/Menu.h"
 #include "works/Subrut.h"
 
 namespace vardena::test {

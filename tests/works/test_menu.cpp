@@ -8,10 +8,10 @@
 
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
-#include "works/Arranque.h"
+#include "application/Arranque.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
-#include "works/Menu.h"
+#include "base/FileIo.h"
+#include "application/Menu.h"
 #include "works/Subrut.h"
 
 namespace vardena::test {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "support/TestSupport.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Registros.h"
 
 namespace vardena {

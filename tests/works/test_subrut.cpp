@@ -5,9 +5,9 @@
 #include <cmath>
 
 #include "support/TestSupport.h"
-#include "works/Form.h"
+#include "base/Form.h"
 #include "works/Subrut.h"
-#include "works/VbFormat.h"
+#include "base/VbFormat.h"
 
 namespace vardena {
 namespace {

@@ -10,9 +10,9 @@
 #include "ObraGrande.h"
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
-#include "works/Conversion.h"
+#include "application/Conversion.h"
 #include "works/DatosFile.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Obra.h"
 #include "works/Transaccion.h"
 

@@ -8,13 +8,14 @@
 #include <memory>
 #include <string>
 
+#include "shell/linux/ServiciosLinux.h"
 #include "controls/Capturas.h"
 #include "controls/Programa.h"
 #include "controls/UiQt.h"
 #include "controls/Vista.h"
-#include "works/Aplicacion.h"
+#include "application/Aplicacion.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Obra.h"
 
 namespace {
@@ -30,6 +31,7 @@ int Uso()
 
 int main(int argc, char** argv)
 {
+    vardena::RegistraServicios(vardena::InstalaServiciosLinux);
     QApplication qapp(argc, argv);
     std::string capturas, obra, argumento;
     for (int i = 1; i < argc; ++i) {

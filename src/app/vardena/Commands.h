@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "works/Aplicacion.h"
+#include "application/Aplicacion.h"
 
 namespace vardena::cli {
 

@@ -9,8 +9,8 @@
 
 #include "Commands.h"
 #include "works/Catalogo.h"
-#include "works/Conversion.h"
-#include "works/FileIo.h"
+#include "application/Conversion.h"
+#include "base/FileIo.h"
 #include "works/Obra.h"
 #include "works/Subrut.h"
 

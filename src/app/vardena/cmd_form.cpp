@@ -9,8 +9,8 @@
 
 #include "Commands.h"
 #include "frame/Formularios.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Obra.h"
 
 namespace vardena::cli {

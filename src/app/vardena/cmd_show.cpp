@@ -2,7 +2,7 @@
 
 #include "Commands.h"
 #include "reports/RtfLector.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena::cli {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "Commands.h"
 #include "works/Catalogo.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Obra.h"
 
 namespace vardena::cli {

@@ -8,8 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "shell/linux/ServiciosLinux.h"
 #include "Commands.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
 
 using namespace vardena;
@@ -98,6 +99,7 @@ public:
 
 int main(int argc, char** argv)
 {
+    RegistraServicios(InstalaServiciosLinux);
     std::vector<std::string> args(argv + 1, argv + argc);
     if (args.empty()) {
         PrintHelp(std::cerr);

@@ -14,7 +14,7 @@
 #include <unistd.h>
 
 #include "shell/linux/TextoLinux.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 

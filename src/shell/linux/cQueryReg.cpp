@@ -9,8 +9,8 @@
 
 #include "shell/Platform.h"
 #include "shell/linux/TextoLinux.h"
-#include "works/Codepage.h"
-#include "works/FileIo.h"
+#include "base/Codepage.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 
@@ -35,7 +35,7 @@ constexpr std::array<RootName, 7> kRoots{{
     {RaizReg::PerformanceData, "HKPD", "HKEY_PERFORMANCE_DATA"},
 }};
 
-using Clave = cQueryReg::Clave;
+using Clave = cQueryRegLinux::Clave;
 
 std::string Lower(std::string_view s)
 {
@@ -62,9 +62,9 @@ std::optional<std::string> Canonical(std::string_view key)
 {
     RaizReg root;
     std::string rest;
-    if (!cQueryReg::RaizDe(key, root, rest))
+    if (!cQueryRegLinux::RaizDe(key, root, rest))
         return std::nullopt;
-    std::string path = cQueryReg::NombreRaiz(root);
+    std::string path = cQueryRegLinux::NombreRaiz(root);
     size_t pos = 0;
     while (pos < rest.size()) {
         size_t end = rest.find('\\', pos);
@@ -461,14 +461,14 @@ std::string TextoValorReg(const ValorReg& v)
     }
 }
 
-cQueryReg::cQueryReg(std::string file) : file_(file.empty() ? DefaultPath() : std::move(file)) {}
+cQueryRegLinux::cQueryRegLinux(std::string file) : file_(file.empty() ? DefaultPath() : std::move(file)) {}
 
-std::string cQueryReg::DefaultPath()
+std::string cQueryRegLinux::DefaultPath()
 {
     return (fs::path(IniSettings::DefaultPath()).parent_path() / "Registro.reg").string();
 }
 
-bool cQueryReg::RaizDe(std::string_view key, RaizReg& root, std::string& subkey)
+bool cQueryRegLinux::RaizDe(std::string_view key, RaizReg& root, std::string& subkey)
 {
     for (const auto& r : kRoots)
         for (std::string_view name : {std::string_view(r.shortName), std::string_view(r.longName)}) {
@@ -483,7 +483,7 @@ bool cQueryReg::RaizDe(std::string_view key, RaizReg& root, std::string& subkey)
     return false;
 }
 
-std::string cQueryReg::NombreRaiz(RaizReg root)
+std::string cQueryRegLinux::NombreRaiz(RaizReg root)
 {
     for (const auto& r : kRoots)
         if (r.root == root)
@@ -491,7 +491,7 @@ std::string cQueryReg::NombreRaiz(RaizReg root)
     return {};
 }
 
-bool cQueryReg::Load(std::vector<Clave>& keys)
+bool cQueryRegLinux::Load(std::vector<Clave>& keys)
 {
     keys.clear();
     std::optional<std::string> bytes;
@@ -511,7 +511,7 @@ bool cQueryReg::Load(std::vector<Clave>& keys)
     return true;
 }
 
-bool cQueryReg::Save(const std::vector<Clave>& keys)
+bool cQueryRegLinux::Save(const std::vector<Clave>& keys)
 {
     try {
         std::error_code ec;
@@ -527,7 +527,7 @@ bool cQueryReg::Save(const std::vector<Clave>& keys)
 // Loads, applies `change` (which says whether it changed anything) and saves. A file that could
 // not be read whole is not written over.
 template <class Change>
-bool cQueryReg::Modify(Change change)
+bool cQueryRegLinux::Modify(Change change)
 {
     std::vector<Clave> keys;
     if (!Load(keys))
@@ -537,7 +537,7 @@ bool cQueryReg::Modify(Change change)
     return Save(keys);
 }
 
-std::optional<std::string> cQueryReg::LoadFor(const std::string& key, std::vector<Clave>& keys)
+std::optional<std::string> cQueryRegLinux::LoadFor(const std::string& key, std::vector<Clave>& keys)
 {
     auto path = Canonical(key);
     if (path)
@@ -545,7 +545,7 @@ std::optional<std::string> cQueryReg::LoadFor(const std::string& key, std::vecto
     return path;
 }
 
-std::optional<ValorReg> cQueryReg::QueryRegBase(const std::string& key, const std::string& name)
+std::optional<ValorReg> cQueryRegLinux::QueryRegBase(const std::string& key, const std::string& name)
 {
     std::vector<Clave> keys;
     auto path = LoadFor(key, keys);
@@ -558,31 +558,31 @@ std::optional<ValorReg> cQueryReg::QueryRegBase(const std::string& key, const st
     return *v;
 }
 
-uint32_t cQueryReg::GetRegDWord(const std::string& key, const std::string& name)
+uint32_t cQueryRegLinux::GetRegDWord(const std::string& key, const std::string& name)
 {
     auto v = QueryRegBase(key, name);
     return v && v->type == kRegDword ? v->number : 0;
 }
 
-std::string cQueryReg::GetReg(const std::string& key, const std::string& name)
+std::string cQueryRegLinux::GetReg(const std::string& key, const std::string& name)
 {
     auto v = QueryRegBase(key, name);
     return v ? TextoValorReg(*v) : std::string();
 }
 
-std::string cQueryReg::GetRegBinary(const std::string& key, const std::string& name)
+std::string cQueryRegLinux::GetRegBinary(const std::string& key, const std::string& name)
 {
     auto v = QueryRegBase(key, name);
     return v && v->type == kRegBinary ? HexPairs(v->bytes, ' ') : std::string();
 }
 
-std::string cQueryReg::GetRegString(const std::string& key, const std::string& name)
+std::string cQueryRegLinux::GetRegString(const std::string& key, const std::string& name)
 {
     auto v = QueryRegBase(key, name);
     return v && (v->type == kRegSz || v->type == kRegExpandSz) ? v->text : std::string();
 }
 
-long cQueryReg::OpenKeyEx(const std::string& key)
+long cQueryRegLinux::OpenKeyEx(const std::string& key)
 {
     std::vector<Clave> keys;
     auto path = LoadFor(key, keys);
@@ -592,13 +592,13 @@ long cQueryReg::OpenKeyEx(const std::string& key)
     return nextHandle_++;
 }
 
-std::string cQueryReg::HandlePath(long handle) const
+std::string cQueryRegLinux::HandlePath(long handle) const
 {
     auto it = open_.find(handle);
     return it == open_.end() ? std::string() : it->second;
 }
 
-std::string cQueryReg::OpenKeyQuery(const std::string& key, const std::string& name)
+std::string cQueryRegLinux::OpenKeyQuery(const std::string& key, const std::string& name)
 {
     const long h = OpenKeyEx(key);
     if (h == 0)
@@ -608,21 +608,21 @@ std::string cQueryReg::OpenKeyQuery(const std::string& key, const std::string& n
     return text;
 }
 
-std::string cQueryReg::EnumValueString(long handle, int index)
+std::string cQueryRegLinux::EnumValueString(long handle, int index)
 {
     auto names = EnumValues(HandlePath(handle));
     return ItemAt(names, index) ? GetReg(HandlePath(handle), *ItemAt(names, index)) : std::string();
 }
 
-std::string cQueryReg::EnumValue(long handle, int index)
+std::string cQueryRegLinux::EnumValue(long handle, int index)
 {
     auto names = EnumValues(HandlePath(handle));
     return ItemAt(names, index) ? *ItemAt(names, index) : std::string();
 }
 
-void cQueryReg::CloseKey(long handle) { open_.erase(handle); }
+void cQueryRegLinux::CloseKey(long handle) { open_.erase(handle); }
 
-bool cQueryReg::QueryInfoKey(long handle, int& subKeys, int& values)
+bool cQueryRegLinux::QueryInfoKey(long handle, int& subKeys, int& values)
 {
     const std::string path = HandlePath(handle);
     if (path.empty())
@@ -632,19 +632,19 @@ bool cQueryReg::QueryInfoKey(long handle, int& subKeys, int& values)
     return true;
 }
 
-std::string cQueryReg::EnumKeyEx(long handle, int index)
+std::string cQueryRegLinux::EnumKeyEx(long handle, int index)
 {
     auto names = EnumKeys(HandlePath(handle));
     return ItemAt(names, index) ? *ItemAt(names, index) : std::string();
 }
 
-std::string cQueryReg::ShellFolders(const std::string& name)
+std::string cQueryRegLinux::ShellFolders(const std::string& name)
 {
     std::string folder = GetRegString(kShellFolders, name);
     return folder.empty() ? DesktopFolder(name) : folder;
 }
 
-std::string cQueryReg::GetFolder(const std::string& name)
+std::string cQueryRegLinux::GetFolder(const std::string& name)
 {
     // The system's own folders: its root, and where its shared libraries lie.
     if (Same(name, "WindowsDir"))
@@ -654,7 +654,7 @@ std::string cQueryReg::GetFolder(const std::string& name)
     return ShellFolders(name);
 }
 
-bool cQueryReg::SetReg(const std::string& key, const std::string& name, const std::string& text, int type)
+bool cQueryRegLinux::SetReg(const std::string& key, const std::string& name, const std::string& text, int type)
 {
     auto path = Canonical(key);
     if (!path)
@@ -690,12 +690,12 @@ bool cQueryReg::SetReg(const std::string& key, const std::string& name, const st
     });
 }
 
-bool cQueryReg::RegSetValue2(const std::string& key, const std::string& name, const std::string& text)
+bool cQueryRegLinux::RegSetValue2(const std::string& key, const std::string& name, const std::string& text)
 {
     return SetReg(key, name, text, kRegSz);
 }
 
-bool cQueryReg::DeleteKey(const std::string& key)
+bool cQueryRegLinux::DeleteKey(const std::string& key)
 {
     auto path = Canonical(key);
     if (!path || IsRoot(*path))
@@ -708,7 +708,7 @@ bool cQueryReg::DeleteKey(const std::string& key)
     });
 }
 
-bool cQueryReg::DeleteKeyWin95(const std::string& key)
+bool cQueryRegLinux::DeleteKeyWin95(const std::string& key)
 {
     auto path = Canonical(key);
     if (!path || IsRoot(*path))
@@ -721,7 +721,7 @@ bool cQueryReg::DeleteKeyWin95(const std::string& key)
     });
 }
 
-bool cQueryReg::AsociarExt(const std::string& extension, const std::string& progID, const std::string& description,
+bool cQueryRegLinux::AsociarExt(const std::string& extension, const std::string& progID, const std::string& description,
                            const std::string& command)
 {
     if (extension.empty() || progID.empty())
@@ -732,7 +732,7 @@ bool cQueryReg::AsociarExt(const std::string& extension, const std::string& prog
            SetReg(id + "\\shell\\open\\command", "", command + " %1");
 }
 
-bool cQueryReg::DesasociarExt(const std::string& extension, const std::string& progID)
+bool cQueryRegLinux::DesasociarExt(const std::string& extension, const std::string& progID)
 {
     if (extension.empty() || progID.empty())
         return false;
@@ -745,14 +745,14 @@ bool cQueryReg::DesasociarExt(const std::string& extension, const std::string& p
     return all;
 }
 
-std::vector<std::string> cQueryReg::EnumKeys(const std::string& key)
+std::vector<std::string> cQueryRegLinux::EnumKeys(const std::string& key)
 {
     std::vector<Clave> keys;
     auto path = LoadFor(key, keys);
     return path ? Children(keys, *path) : std::vector<std::string>();
 }
 
-std::vector<std::string> cQueryReg::EnumValues(const std::string& key)
+std::vector<std::string> cQueryRegLinux::EnumValues(const std::string& key)
 {
     std::vector<Clave> keys;
     auto path = LoadFor(key, keys);
@@ -763,7 +763,7 @@ std::vector<std::string> cQueryReg::EnumValues(const std::string& key)
     return out;
 }
 
-bool cQueryReg::RegSaveKey(const std::string& key, const std::string& file)
+bool cQueryRegLinux::RegSaveKey(const std::string& key, const std::string& file)
 {
     std::vector<Clave> keys;
     auto path = LoadFor(key, keys);

@@ -15,33 +15,20 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/cQueryReg.h"
+
 namespace vardena {
 
 enum class RaizReg { ClassesRoot, CurrentUser, LocalMachine, Users, CurrentConfig, DynData, PerformanceData };
-
-// Value kinds by their registry numbers.
-inline constexpr int kRegSz = 1;
-inline constexpr int kRegExpandSz = 2;
-inline constexpr int kRegBinary = 3;
-inline constexpr int kRegDword = 4;
-inline constexpr int kRegMultiSz = 7;
-
-struct ValorReg {
-    std::string name;     // "" for the key's default value
-    int type = kRegSz;
-    std::string text;     // kRegSz and kRegExpandSz, UTF-8
-    uint32_t number = 0;  // kRegDword
-    std::string bytes;    // every other kind, as stored
-};
 
 // The text of a value: a text as it is; a DWORD as "0x" + 8 hexadecimal digits + " (" + decimal
 // + ")"; a multi-text as its items joined by "; "; any other kind as hexadecimal pairs cut by blanks.
 std::string TextoValorReg(const ValorReg& v);
 
-class cQueryReg {
+class cQueryRegLinux : public cQueryReg {
 public:
     // `file` empty: DefaultPath().
-    explicit cQueryReg(std::string file = {});
+    explicit cQueryRegLinux(std::string file = {});
     // "Registro.reg" in the folder of IniSettings::DefaultPath().
     static std::string DefaultPath();
 

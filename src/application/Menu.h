@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 

@@ -1,4 +1,4 @@
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 
 #include <array>
 #include <cstdint>

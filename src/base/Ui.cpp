@@ -1,4 +1,4 @@
-#include "works/Ui.h"
+#include "base/Ui.h"
 
 namespace vardena {
 

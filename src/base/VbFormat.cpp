@@ -1,4 +1,4 @@
-#include "works/VbFormat.h"
+#include "base/VbFormat.h"
 
 #include <cmath>
 #include <cstdio>

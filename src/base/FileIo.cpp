@@ -1,4 +1,4 @@
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 
 namespace vardena {
 namespace {

@@ -19,6 +19,12 @@ struct Aplicacion {
     Declaraciones decl;
 };
 
+// The services of the platform the program runs on (recycle bin, opening documents, system
+// facts, registry). The program's main() registers them once; every Aplicacion made after
+// installs them. Without a registration the services stay empty.
+using InstaladorServicios = void (*)(Platform&);
+void RegistraServicios(InstaladorServicios instala);
+
 // The folder of the program's resources: $VARDENA_RESOURCES, then ../share/vardena beside the
 // executable, then the source tree's resources/.
 std::string ResourceDir();

@@ -1,14 +1,23 @@
-#include "works/Aplicacion.h"
+#include "application/Aplicacion.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <unistd.h>
 
-#include "shell/LngPack.h"
-#include "shell/linux/ServiciosLinux.h"
+#include "works/LngPack.h"
 #include "works/Catalogo.h"
 
 namespace vardena {
+
+namespace {
+InstaladorServicios& Instalador()
+{
+    static InstaladorServicios instala = nullptr;
+    return instala;
+}
+}  // namespace
+
+void RegistraServicios(InstaladorServicios instala) { Instalador() = instala; }
 
 std::string ResourceDir()
 {
@@ -32,7 +41,8 @@ Aplicacion::Aplicacion(Ui& ui, std::unique_ptr<SettingsStore> settings, std::str
     : decl(ui, platform)
 {
     platform.settings = std::move(settings);
-    InstalaServiciosLinux(platform);
+    if (Instalador())
+        Instalador()(platform);
     decl.DirPrograma = programDir.empty() ? ResourceDir() : std::move(programDir);
     decl.GeneralDataDefaults();
     CargaIdioma(decl);

@@ -1,4 +1,4 @@
-#include "works/Menu.h"
+#include "application/Menu.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -6,17 +6,18 @@
 #include "building/SistUnid.h"
 #include "frame/Campos.h"
 #include "reports/mRtf.h"
-#include "shell/LngPack.h"
-#include "shell/linux/Ventanas.h"
-#include "works/Arranque.h"
+#include "works/LngPack.h"
+#include "shell/Ventanas.h"
+#include "application/Arranque.h"
 #include "works/Catalogo.h"
-#include "works/Conversion.h"
+#include "application/Conversion.h"
 #include "works/DatosFile.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Mantenimiento.h"
+#include "base/FileIo.h"
+#include "application/Mantenimiento.h"
 #include "works/Obra.h"
 #include "works/Subrut.h"
+#include "works/VentanaError.h"
 
 namespace vardena {
 namespace {

@@ -1,9 +1,9 @@
-#include "works/Form.h"
+#include "base/Form.h"
 
 #include <array>
 
-#include "works/FileIo.h"
-#include "works/Subrut.h"
+#include "base/FileIo.h"
+#include "base/Texto.h"
 
 namespace vardena {
 namespace {

@@ -1,9 +1,9 @@
-#include "shell/InfoSistema.h"
+#include "works/InfoSistema.h"
 
 #include <cstdio>
 
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
 
 namespace vardena {

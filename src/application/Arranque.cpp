@@ -1,47 +1,16 @@
-#include "works/Arranque.h"
+#include "application/Arranque.h"
 
 #include <filesystem>
 
-#include "shell/LngPack.h"
-#include "shell/linux/cQueryReg.h"
+#include "works/LngPack.h"
 #include "works/Catalogo.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
-#include "works/VbInput.h"
+#include "works/VentanaError.h"
+#include "base/VbInput.h"
 
 namespace vardena {
-
-void ConVentanaError(Declaraciones& d, std::string_view origen, const std::function<void()>& cuerpo)
-{
-    for (;;) {
-        int numero = 0;
-        std::string descripcion;
-        try {
-            cuerpo();
-            return;
-        } catch (const ProgramHalt&) {
-            throw;
-        } catch (const PropertyError& e) {
-            numero = e.number();
-            descripcion = e.what();
-        } catch (const FieldError& e) {
-            numero = e.number();
-            descripcion = e.what();
-        } catch (const FileError& e) {
-            numero = 75;
-            descripcion = e.what();
-        } catch (const std::exception& e) {
-            numero = 5;
-            descripcion = e.what();
-        }
-        d.ErrorOrigen = std::string(origen);
-        const bool reintenta = d.ui.ErrorFrm(origen, numero, descripcion);
-        d.ErrorOrigen = reintenta ? "Retry" : "Ok";
-        if (!reintenta)
-            throw ProgramHalt(std::string(origen) + ": " + descripcion);
-    }
-}
 
 std::string TextoVersion() { return "v " + Formato00Punto(kVersionMajor + kVersionMinor / 100.0); }
 
@@ -84,7 +53,7 @@ void Splash::Form_Load()
         TraduceForm(*this);
         CargaIdioma(d);
         LlenaCatalogo(d);
-        personal_ = cQueryReg().ShellFolders("Personal");
+        personal_ = d.platform.registry ? d.platform.registry->ShellFolders("Personal") : std::string();
         NombreDat(d, "NOMBRE.DAT", "L");
         // A missing component is noted in a warning that is not shown: the program goes on.
         const std::string faltan = ComponentesQueFaltan(d);

@@ -6,17 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "works/Form.h"
+#include "base/Form.h"
 
 namespace vardena {
 
 struct Declaraciones;
 
-// Runs a handler's body; a run-time failure in it (a bad property, a field that cannot be
-// read, a file that cannot be written, any other std::exception except ProgramHalt) shows the
-// error window under `origen`. "Reintentar" runs the body again; any other answer ends the
-// program by throwing ProgramHalt.
-void ConVentanaError(Declaraciones& d, std::string_view origen, const std::function<void()>& cuerpo);
+
 
 // The version label of the splash: "v " and the program's version in Formato00Punto.
 std::string TextoVersion();

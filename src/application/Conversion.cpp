@@ -1,4 +1,4 @@
-#include "works/Conversion.h"
+#include "application/Conversion.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -9,11 +9,11 @@
 #include "building/DatosGen.h"
 #include "frame/Formularios.h"
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 #include "works/DatosFile.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Form.h"
+#include "base/FileIo.h"
+#include "base/Form.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
 #include "works/Transaccion.h"

@@ -1,18 +1,19 @@
-#include "works/Mantenimiento.h"
+#include "application/Mantenimiento.h"
 
 #include <cctype>
 #include <filesystem>
 
 #include "frame/ElementForm.h"
-#include "shell/LngPack.h"
-#include "shell/linux/ModIcono.h"
-#include "works/Arranque.h"
+#include "works/LngPack.h"
+#include "shell/ModIcono.h"
+#include "application/Arranque.h"
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
-#include "works/Menu.h"
+#include "base/FileIo.h"
+#include "application/Menu.h"
 #include "works/Subrut.h"
+#include "works/VentanaError.h"
 
 namespace vardena {
 

@@ -1,4 +1,4 @@
-#include "shell/linux/ModIcono.h"
+#include "shell/ModIcono.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 

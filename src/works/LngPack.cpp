@@ -1,13 +1,13 @@
-#include "shell/LngPack.h"
+#include "works/LngPack.h"
 
 #include <filesystem>
 #include <optional>
 #include <string_view>
 
 #include "works/Catalogo.h"
-#include "works/Codepage.h"
+#include "base/Codepage.h"
 #include "works/Declaraciones.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 #include "works/Subrut.h"
 
 namespace vardena {

@@ -1,4 +1,4 @@
-#include "shell/linux/Ventanas.h"
+#include "shell/Ventanas.h"
 
 namespace vardena {
 

@@ -1,9 +1,9 @@
-#include "works/VbInput.h"
+#include "base/VbInput.h"
 
 #include <cmath>
 
-#include "works/Subrut.h"
-#include "works/VbFormat.h"
+#include "base/Texto.h"
+#include "base/VbFormat.h"
 
 namespace vardena {
 
