@@ -7,7 +7,7 @@
 #include "building/Unidades.h"
 #include "support/TestSupport.h"
 #include "works/DatosFile.h"
-#include "works/FileIo.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {

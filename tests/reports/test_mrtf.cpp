@@ -5,8 +5,8 @@
 
 #include "reports/mRtf.h"
 #include "support/TestSupport.h"
-#include "works/Codepage.h"
-#include "works/FileIo.h"
+#include "base/Codepage.h"
+#include "base/FileIo.h"
 
 namespace vardena {
 namespace {
