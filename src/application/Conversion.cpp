@@ -7,6 +7,7 @@
 #include <random>
 
 #include "building/DatosGen.h"
+#include "frame/ElementForm.h"
 #include "frame/Formularios.h"
 #include "works/Catalogo.h"
 #include "base/Codepage.h"
@@ -86,7 +87,9 @@ struct RunStopped {
     std::string why;
 };
 
-// "positional", "named" or "" (no file) from a record's first line.
+// What a dry run predicts of a record from its first line, without reading it through its form
+// (which would show the user the boxes of the real run): "positional", "named", or "" for no
+// file.
 std::string FormatOf(const std::optional<std::string>& path)
 {
     if (!path)
@@ -122,39 +125,37 @@ void RunRecords(RunState& s, const Dispatch& dispatch)
     ConVentanaError(s.d, "Form_Load", [&] { form = CargaForm(d, dispatch.form); });
     if (!form)
         throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
+    auto* element = dynamic_cast<ElementForm*>(form.get());
+    if (!element)
+        throw ProgramHalt(std::string("form ") + dispatch.form + " has no record list");
     Control& list1 = form->At("List1");
     const int count = list1.ListCount();
     for (int j = 0; j < count; ++j) {
         const std::string title = list1.List(j);
-        const std::string recordPath = RutaRegistro(*form, title);
-        const auto existing = ExistingNoCase(recordPath);
-        const std::string before = FormatOf(existing);
-        d.UltimaLectura = 0;
         ConVentanaError(s.d, "List1_Click", [&] { list1.SetListIndex(j); });
+        const Lectura lectura = element->UltimaLectura();
         if (d.DoEvents)
             d.DoEvents();
-        CheckTitle(s, *form, existing.value_or(recordPath));
-        std::string written;
-        ConVentanaError(s.d, "CmdCalcular_Click", [&] {
-            written = RutaRegistro(*form, form->At("txtTitulo").Text());
-            form->At("CmdCalcular").Click();
-        });
-        ConversionEntry e{Status::Converted, existing.value_or(recordPath), dispatch.form, written, {}};
-        if (!existing) {
+        const std::string record = lectura.found() ? lectura.path : RutaRegistro(*form, title);
+        CheckTitle(s, *form, record);
+        ConVentanaError(s.d, "CmdCalcular_Click", [&] { form->At("CmdCalcular").Click(); });
+        const std::string& written = element->UltimoGuardado();
+        ConversionEntry e{Status::Converted, record, dispatch.form, written, {}};
+        if (!lectura.found()) {
             e.status = Status::NoRecord;
             e.note = "a results file without a record: the form's current state was saved under \"" +
                      form->At("txtTitulo").Text() + "\"";
-        } else if (d.UltimaLectura == 3) {
+        } else if (lectura.outcome == ReadOutcome::Refused) {
             e.status = Status::Refused;
             e.note = "no reader accepted the record (message 1355): the form's previous state was saved under its "
                      "title, as version 3 did; the old file is not repaired";
-        } else if (d.UltimaLectura == 2 || before == "named") {
+        } else if (lectura.outcome == ReadOutcome::Named) {
             e.status = Status::Rewritten;
             e.note = "already in the named format: read and written again";
         } else {
             e.note = "positional record written in the named format of version 3.50";
         }
-        if (existing && ExistingNoCase(written) != existing && e.status != Status::Refused)
+        if (lectura.found() && !SameNameNoCase(ArchivoDe(written), ArchivoDe(record)) && e.status != Status::Refused)
             e.note += "; the record holds another title, so it was written as " + ArchivoDe(written) +
                       " and the old file stays";
         if (dispatch.form == std::string("frmSuelo"))
@@ -191,11 +192,9 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
     if (!form)
         throw ProgramHalt(std::string("form ") + dispatch.form + " is not available");
     CheckTitle(s, *form, path);
-    std::string written;
-    ConVentanaError(s.d, "CmdCalcular_Click", [&] {
-        written = RutaRegistro(*form, form->At("txtTitulo").Text());
-        form->At("CmdCalcular").Click();
-    });
+    ConVentanaError(s.d, "CmdCalcular_Click", [&] { form->At("CmdCalcular").Click(); });
+    const auto* element = dynamic_cast<const ElementForm*>(form.get());
+    const std::string written = element ? element->UltimoGuardado() : std::string();
     form->Form_Unload();
     s.log.entries.push_back({Status::Saved, path, dispatch.form, written,
                              "the actions record was saved in the named format; the actions were not recalculated"});

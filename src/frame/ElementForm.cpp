@@ -149,9 +149,9 @@ void ElementForm::Form_Load()
         } else {
             At("txtTitulo").SetText(ciclo_.tituloFijo);
             std::string titulo(ciclo_.tituloFijo);
-            LeeForm(*this, titulo, &registroFijoEncontrado_);
+            lectura_ = LeeForm(*this, titulo);
             // The version label tells the version of the record shown, as after a click.
-            if (registroFijoEncontrado_)
+            if (lectura_.found())
                 PoneVersion();
         }
         CargaPropia();
@@ -170,7 +170,7 @@ void ElementForm::List1_Click()
         std::string titulo = list.SelectedText();
         if (ciclo_.guarda)
             d.Cargando = kTrue;
-        LeeForm(*this, titulo);
+        lectura_ = LeeForm(*this, titulo);
         // Fields that depend on one another settle on a second reading.
         if (ciclo_.leeDosVeces)
             LeeForm(*this, titulo);
@@ -203,6 +203,7 @@ void ElementForm::CmdCalcular_Click()
 {
     Declaraciones& d = decl();
     ConVentanaError(d, "CmdCalcular_Click", [&] {
+        guardado_.clear();
         if (ciclo_.pregunta && !ConfirmaReemplazo())
             return;
         if (ciclo_.paso == PasoComprobacion::Ninguno) {
@@ -212,7 +213,8 @@ void ElementForm::CmdCalcular_Click()
             Comprueba(LeeDatosComprobacion());
         }
         // A refused save has told the user why; the version shown stays that of the record read.
-        if (GuardaForm(*this).empty())
+        guardado_ = GuardaForm(*this);
+        if (guardado_.empty())
             return;
         if (ciclo_.tituloFijo.empty())
             PoneVersion();

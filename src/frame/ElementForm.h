@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "frame/Campos.h"
+#include "works/Registros.h"
 #include "base/Form.h"
 
 namespace vardena {
@@ -72,7 +73,13 @@ protected:
     virtual void CalculoPropio() {}
 
     // For a form with one fixed record: whether its load found that record.
-    bool RegistroFijoEncontrado() const { return registroFijoEncontrado_; }
+    bool RegistroFijoEncontrado() const { return lectura_.found(); }
+
+public:
+    // The last reading of a record (by the load of a fixed record, or by List1_Click) and the
+    // file the last save wrote ("" when the save was refused).
+    const Lectura& UltimaLectura() const { return lectura_; }
+    const std::string& UltimoGuardado() const { return guardado_; }
 
 private:
     void CreaCampo(const CampoDef& campo, int index, size_t miembro);
@@ -88,7 +95,8 @@ private:
     const CicloForm& ciclo_;
     bool descargado_ = false;
     bool listadoPulsado_ = false;
-    bool registroFijoEncontrado_ = false;
+    Lectura lectura_;
+    std::string guardado_;
 };
 
 // Keys that cannot stand in a file name; txtTitulo swallows them.

@@ -6,6 +6,7 @@
 
 #include "frame/CatalogoPerfiles.h"
 #include "frame/UCComun.h"
+#include "works/Registros.h"
 #include "base/FileIo.h"
 #include "base/Form.h"
 #include "works/Subrut.h"
@@ -194,7 +195,7 @@ const std::vector<std::string>& FamiliasPerfil()
 
 int IndiceFamiliaPerfil(std::string_view perfil)
 {
-    if (SameNameNoCase(perfil, "xxx"))
+    if (EsPerfilDeUsuario(perfil))
         return kFamiliaUsuario;
     const std::vector<std::string>& familias = FamiliasPerfil();
     for (size_t i = 0; i < familias.size(); ++i)

@@ -61,8 +61,6 @@ struct Declaraciones {
     std::string ErrorOrigen;
     // Set by the main window before it opens the general data of a work it has just created.
     int16_t ObraNueva = kFalse;
-    // How the last record read was taken: 0 none, 1 positional, 2 named, 3 refused.
-    int16_t UltimaLectura = 0;
     // The sentence of the last failed write of DATOS.~CE, after its handler has told the user;
     // empty when the last write went through.
     std::string UltimoErrorDatos;

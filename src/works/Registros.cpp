@@ -16,27 +16,11 @@
 namespace vardena {
 namespace {
 
-bool IsUserSection(std::string_view perfil) { return SameNameNoCase(perfil, "xxx") || SameNameNoCase(perfil, "otro"); }
 
 std::string LTrim(std::string s)
 {
     size_t k = s.find_first_not_of(' ');
     return k == std::string::npos ? std::string() : s.substr(k);
-}
-
-// The properties a composite control writes, in the order of the given format.
-std::vector<std::string> CompositeProps(const Control& c, bool named)
-{
-    if (c.kind() != Kind::UCPerfil)
-        return StoredProperties(c.kind());
-    if (IsUserSection(c.Get("Perfil"))) {
-        if (named)
-            return {"Num", "Perfil", "Ancho", "Canto", "Area", "Ix", "Iy"};
-        return {"Num", "Perfil", "Canto", "Ancho", "Area", "Ix", "Iy"};
-    }
-    if (named)
-        return {"Num", "Perfil", "Ancho", "Tamano"};
-    return {"Num", "Perfil", "Tamano", "Ancho"};
 }
 
 bool PropertyBelongs(Kind k, std::string_view prop)
@@ -115,6 +99,23 @@ private:
 
 }  // namespace
 
+bool EsPerfilDeUsuario(std::string_view perfil) { return SameNameNoCase(perfil, "xxx") || SameNameNoCase(perfil, "otro"); }
+
+std::vector<std::string> PropiedadesGuardadas(const Control& c, bool named)
+{
+    if (c.kind() != Kind::UCPerfil)
+        return StoredProperties(c.kind());
+    if (EsPerfilDeUsuario(c.Get("Perfil"))) {
+        if (named)
+            return {"Num", "Perfil", "Ancho", "Canto", "Area", "Ix", "Iy"};
+        return {"Num", "Perfil", "Canto", "Ancho", "Area", "Ix", "Iy"};
+    }
+    if (named)
+        return {"Num", "Perfil", "Ancho", "Tamano"};
+    return {"Num", "Perfil", "Tamano", "Ancho"};
+}
+
+
 int CmbHormAIndiceGuardado(int listIndex)
 {
     if (listIndex == 0)
@@ -155,7 +156,7 @@ std::string PositionalText(const Form& form)
         case Kind::OptionButton: out += "," + BoolField(c->OptionValue()); break;
         case Kind::CheckBox: out += "," + IntegerField(c->CheckValue()); break;
         default:
-            for (const auto& p : CompositeProps(*c, false))
+            for (const auto& p : PropiedadesGuardadas(*c, false))
                 out += "," + QuoteField(c->Get(p));
         }
         out += "\n";
@@ -178,7 +179,7 @@ std::string NamedText(const Form& form)
         case Kind::OptionButton: line(true, "Value", c->OptionValue() ? "True" : "False"); break;
         default: {
             bool isFirst = true;
-            for (const auto& p : CompositeProps(*c, true)) {
+            for (const auto& p : PropiedadesGuardadas(*c, true)) {
                 line(isFirst, p, LTrim(c->Get(p)));
                 isFirst = false;
             }
@@ -219,7 +220,7 @@ ReadOutcome FormLeeFile(Form& form, const std::string& path)
                     return FormLeeFile2(form, path);
                 c->Set("Num", num);
                 c->Set("Perfil", perfil);
-                if (IsUserSection(perfil)) {
+                if (EsPerfilDeUsuario(perfil)) {
                     std::string area = r.Text(), ix = r.Text(), iy = r.Text();
                     c->Set("Canto", a);
                     c->Set("Ancho", b);
@@ -240,7 +241,6 @@ ReadOutcome FormLeeFile(Form& form, const std::string& path)
             if (stored != c->Name())
                 return FormLeeFile2(form, path);
         }
-        d.UltimaLectura = 1;
         return ReadOutcome::Positional;
     }, path + ": ");
 }
@@ -254,7 +254,6 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
         std::string versionText = Palabra(2, first, "\t");
         d.VersionArchivo = static_cast<float>(ValComa(versionText));
         if (Palabra(1, first, " ") != kProductWord || d.VersionArchivo > static_cast<float>(kProgramVersion)) {
-            d.UltimaLectura = 3;
             d.ui.MsgBox(d.Msg(1355), mb::Exclamation, d.Msg(34));
             return ReadOutcome::Refused;
         }
@@ -313,7 +312,6 @@ ReadOutcome FormLeeFile2(Form& form, const std::string& path)
             }
         }
         section.Apply();
-        d.UltimaLectura = 2;
         return ReadOutcome::Named;
     }, path + ": ");
 }
@@ -359,18 +357,18 @@ std::string GuardaForm(Form& form)
     return target;
 }
 
-ReadOutcome LeeForm(Form& form, std::string& title, bool* found)
+Lectura LeeForm(Form& form, std::string& title)
 {
+    Lectura lectura;
     auto path = ExistingNoCase(RutaRegistro(form, title));
-    if (found)
-        *found = path.has_value();
     if (!path) {
         title.clear();
-        return ReadOutcome::Refused;
+        return lectura;
     }
-    ReadOutcome outcome = FormLeeFile(form, *path);
+    lectura.path = *path;
+    lectura.outcome = FormLeeFile(form, *path);
     CargaResultados(form, title);
-    return outcome;
+    return lectura;
 }
 
 void CargaResultados(Form& form, std::string_view title)

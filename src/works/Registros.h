@@ -4,9 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vardena {
 
+class Control;
 class Form;
 struct Declaraciones;
 
@@ -40,16 +42,31 @@ enum class ReadOutcome {
 ReadOutcome FormLeeFile(Form& form, const std::string& path);
 ReadOutcome FormLeeFile2(Form& form, const std::string& path);
 
+// Whether a section selector's Perfil names the user's own section ("otro"; older records say
+// "xxx"): its record then holds Canto, Ancho, Area, Ix and Iy instead of a catalogue size.
+bool EsPerfilDeUsuario(std::string_view perfil);
+
+// The properties a stored control keeps, in the order of the positional record (`named` false)
+// or of the named record: a section selector's depend on whether it holds a user section.
+std::vector<std::string> PropiedadesGuardadas(const Control& c, bool named);
+
 // Record path of a title in the current work: folder / title + ".~" + code.
 std::string RutaRegistro(Form& form, std::string_view title);
 std::string RutaResultados(Form& form, std::string_view title);
 
-// Saves the form under its txtTitulo; returns the path written.
+// Saves the form under its txtTitulo; returns the path written, "" when the save was refused.
 std::string GuardaForm(Form& form);
-// Loads the record of `title`. When there is none, empties `title` and reads nothing.
-// Returns the outcome of the read, or nullopt-like Refused... see ReadOutcome; `found` tells
-// whether a record existed.
-ReadOutcome LeeForm(Form& form, std::string& title, bool* found = nullptr);
+
+// What a reading of a record found: the file read (empty when the title has no record) and how
+// it was read.
+struct Lectura {
+    std::string path;
+    ReadOutcome outcome = ReadOutcome::Refused;
+    bool found() const { return !path.empty(); }
+};
+// Loads the record of `title` and its results. When there is none, empties `title` and reads
+// nothing. The one way a record is read, by a window and by the conversion alike.
+Lectura LeeForm(Form& form, std::string& title);
 // Loads the results file of `title` into the form's RichTextBox1 (empty when there is none).
 void CargaResultados(Form& form, std::string_view title);
 // Asks and sends the record of `title` and its results to the recycle bin.

@@ -141,35 +141,6 @@ TEST_F(Conversion, EveryServedRecordKeepsItsValues)
         EXPECT_TRUE(codesSeen.count(d)) << "the samples hold code " << d;
 }
 
-TEST_F(Conversion, TheLogSaysWhatHappenedToEachFile)
-{
-    std::string out, err;
-    ASSERT_EQ(test::RunCli("convert '" + Work("Taller Moncayo") + "'", &out, &err), 0) << err;
-    for (const char* line : {"left-alone: Placa base.~LS", "left-alone: Escalera.~LZ", "left-alone: Escalera madera.~ME",
-                             "left-alone: Proyecto.~DP", "left-alone: Notas.~QQ", "left-alone: Sin comprobar.~ZC",
-                             "no-record: Solo resultados.~ZC", "converted: Zapata antigua.~ZC [frmZapCorr] -> Zapata renombrada.~ZC",
-                             "general-data: DATOS.~CE"})
-        EXPECT_NE(out.find(line), std::string::npos) << line << "\n" << out;
-    EXPECT_TRUE(fs::exists(Work("Taller Moncayo") + "/Zapata renombrada.~ZC"));
-}
-
-TEST_F(Conversion, RefusedWorksAndDryRunWriteNothing)
-{
-    const Snapshot converted = Take(Work("Nave Ebro"));
-    std::string out, err;
-    EXPECT_EQ(test::RunCli("convert '" + Work("Nave Ebro") + "'", &out, &err), 1);
-    EXPECT_NE(err.find("3.50"), std::string::npos) << err;
-    EXPECT_EQ(Take(Work("Nave Ebro")), converted);
-
-    const Snapshot before = Take(Work("Vivienda Ruiz"));
-    ASSERT_EQ(test::RunCli("convert --dry-run '" + Work("Vivienda Ruiz") + "'", &out, &err), 0) << err;
-    EXPECT_NE(out.find("would be written in the named format"), std::string::npos) << out;
-    EXPECT_EQ(Take(Work("Vivienda Ruiz")), before);
-
-    EXPECT_EQ(test::RunCli("convert", &out, &err), 2);
-    EXPECT_EQ(test::RunCli("convert '" + dir / "no-existe" + "'", &out, &err), 1);
-}
-
 TEST_F(Conversion, BackupAllAndJson)
 {
     const Snapshot before = Take(Work("Local Arce"));
@@ -201,18 +172,6 @@ TEST_F(Conversion, PartlyReadableGeneralDataConvertAndNameTheLinesNotRead)
     ASSERT_EQ(test::RunCli("convert --json '" + work + "'", &out, &err), 0) << err;
     EXPECT_NE(out.find("\"unreadGeneralData\":[\"Line"), std::string::npos) << out;
     EXPECT_EQ(test::ReadBytes(work + "/DATOS.~CE").rfind("\"Vardena 3\",3.5\r\n", 0), 0u);
-}
-
-// A run that meets a record no reader accepts keeps going, saves the form's earlier state under
-// its title as version 3 did, and says so.
-TEST_F(Conversion, UnreadableRecordIsReportedAndTheRunGoesOn)
-{
-    const std::string work = Work("Vivienda Ruiz");
-    test::WriteBytes(work + "/Elemento 2.~HJ", "\"Otro\",1\r\n");
-    std::string out, err;
-    EXPECT_EQ(test::RunCli("convert '" + work + "'", &out, &err), 3) << err;
-    EXPECT_NE(out.find("refused: Elemento 2.~HJ"), std::string::npos) << out;
-    EXPECT_NE(out.find("converted: Elemento 1.~LJ"), std::string::npos) << out;
 }
 
 TEST_F(Conversion, ReadOnlyRecordEndsTheRunWithItsName)

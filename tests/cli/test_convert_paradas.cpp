@@ -271,39 +271,5 @@ TEST_F(Paradas, TitlesThatLeaveTheWorkAreRefused)
     }
 }
 
-// A backup inside the work, or into a folder that exists, is refused before anything is written.
-TEST_F(Paradas, BackupIntoTheWorkIsRefused)
-{
-    const std::string work = Sample("Local Arce");
-    fs::create_directory(dir / "existe");
-    const Snapshot before = Take(work);
-    for (const std::string& backup : {work + "/copia", work, work + "/../Local Arce/x", dir / "existe"}) {
-        SCOPED_TRACE(backup);
-        std::string out, err;
-        EXPECT_EQ(test::RunCli("convert --backup " + Q(backup) + " " + Q(work), &out, &err), 1);
-        EXPECT_NE(err.find("copia de seguridad no se ha hecho"), std::string::npos) << err;
-        EXPECT_EQ(Take(work), before);
-    }
-    EXPECT_TRUE(fs::is_empty(dir / "existe"));
-}
-
-// convert --all ends with a total, also in JSON.
-TEST_F(Paradas, AllEndsWithATotal)
-{
-    Sample("Local Arce");
-    Sample("Nave Ebro");
-    const std::string bad = Sample("Edificio Oroel");
-    test::WriteBytes(bad + "/Elemento 1.~ZC", "");
-    std::string out, err;
-    EXPECT_EQ(test::RunCli("convert --all " + Q(dir.path()), &out, &err), 1);
-    const std::string last = out.substr(out.rfind('\n', out.size() - 2) + 1);
-    EXPECT_EQ(last, "Conversión: 1 obras convertidas, 1 rechazadas, 0 deshechas, 1 sin convertir por su versión.\n");
-    EXPECT_NE(out.find("Elemento 1.~ZC"), std::string::npos);
-    test::WriteBytes(bad + "/Elemento 1.~ZC", "");
-    EXPECT_EQ(test::RunCli("convert --json --all " + Q(dir.path()), &out, &err), 1);
-    EXPECT_NE(out.find("\"converted\":0,\"refused\":[{\"work\":"), std::string::npos) << out;
-    EXPECT_NE(out.find("\"notConvertible\":[{"), std::string::npos) << out;
-}
-
 }  // namespace
 }  // namespace vardena

@@ -1,283 +1,259 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "shell/linux/cQueryReg.h"
 #include "support/TestSupport.h"
-#include "test_platform_env.h"
 
 namespace vardena {
 namespace {
 
 namespace fs = std::filesystem;
-using test::EnvVar;
-using test::ReadBytes;
 using test::ScratchDir;
 using test::WriteBytes;
 
-struct RegFixture : ::testing::Test {
-    ScratchDir dir;
-    cQueryRegLinux reg{dir / "Registro.reg"};
+// An environment variable set, or unset (nullopt), for the life of the object.
+class ScopedEnv {
+public:
+    ScopedEnv(std::string name, const std::optional<std::string>& value) : name_(std::move(name))
+    {
+        if (const char* old = std::getenv(name_.c_str()))
+            old_ = old;
+        Put(value);
+    }
+    ~ScopedEnv() { Put(old_); }
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+private:
+    void Put(const std::optional<std::string>& value)
+    {
+        if (value)
+            ::setenv(name_.c_str(), value->c_str(), 1);
+        else
+            ::unsetenv(name_.c_str());
+    }
+    std::string name_;
+    std::optional<std::string> old_;
 };
 
-TEST(cQueryRegRoots, ShortAndLongRootNames)
+std::string MadeFolder(const std::string& path)
 {
-    struct Row {
-        std::string key;
-        bool ok;
-        RaizReg root;
-        std::string subkey;
-    };
-    const std::vector<Row> rows = {
-        {"HKCR\\.ovd", true, RaizReg::ClassesRoot, ".ovd"},
-        {"HKEY_CLASSES_ROOT\\.ovd", true, RaizReg::ClassesRoot, ".ovd"},
-        {"HKCU\\Software\\Vardena", true, RaizReg::CurrentUser, "Software\\Vardena"},
-        {"HKEY_CURRENT_USER\\Software\\Vardena", true, RaizReg::CurrentUser, "Software\\Vardena"},
-        {"hkey_current_user\\x", true, RaizReg::CurrentUser, "x"},
-        {"HKCU", true, RaizReg::CurrentUser, ""},
-        {"HKEY_CURRENT_USER", true, RaizReg::CurrentUser, ""},
-        {"HKLM\\SOFTWARE", true, RaizReg::LocalMachine, "SOFTWARE"},
-        {"HKEY_LOCAL_MACHINE\\SOFTWARE", true, RaizReg::LocalMachine, "SOFTWARE"},
-        {"HKU\\.DEFAULT", true, RaizReg::Users, ".DEFAULT"},
-        {"HKEY_USERS\\.DEFAULT", true, RaizReg::Users, ".DEFAULT"},
-        {"HKCC\\System", true, RaizReg::CurrentConfig, "System"},
-        {"HKEY_CURRENT_CONFIG\\System", true, RaizReg::CurrentConfig, "System"},
-        {"HKDD\\PerfStats", true, RaizReg::DynData, "PerfStats"},
-        {"HKEY_DYN_DATA\\PerfStats", true, RaizReg::DynData, "PerfStats"},
-        {"HKPD\\x", true, RaizReg::PerformanceData, "x"},
-        {"HKEY_PERFORMANCE_DATA\\x", true, RaizReg::PerformanceData, "x"},
-        {"HKCUX\\Software", false, RaizReg::CurrentUser, ""},
-        {"HKEY_CURRENT_USERS\\Software", false, RaizReg::CurrentUser, ""},
-        {"Software\\Vardena", false, RaizReg::CurrentUser, ""},
-        {"", false, RaizReg::CurrentUser, ""},
-    };
-    for (const auto& r : rows) {
-        RaizReg root = RaizReg::CurrentUser;
-        std::string sub;
-        ASSERT_EQ(cQueryRegLinux::RaizDe(r.key, root, sub), r.ok) << r.key;
-        if (!r.ok)
-            continue;
-        EXPECT_EQ(root, r.root) << r.key;
-        EXPECT_EQ(sub, r.subkey) << r.key;
+    fs::create_directories(path);
+    return path;
+}
+
+// A home folder of its own, with the desktop's configuration and data folders inside it. The
+// home lies one level down in a scratch folder, so that even a path that runs on from its name
+// ("~Documentos") stays in the scratch folder.
+struct FakeDesktop {
+    ScratchDir scratch;
+    std::string home = MadeFolder(scratch / "casa");
+    ScopedEnv homeVar{"HOME", home};
+    ScopedEnv configVar{"XDG_CONFIG_HOME", home + "/cfg"};
+    ScopedEnv dataVar{"XDG_DATA_HOME", home + "/data"};
+    cQueryRegLinux reg;
+
+    // "~" at the front stands for the home folder.
+    std::string At(const std::string& path) const
+    {
+        return !path.empty() && path[0] == '~' ? home + path.substr(1) : path;
     }
-    EXPECT_EQ(cQueryRegLinux::NombreRaiz(RaizReg::DynData), "HKEY_DYN_DATA");
-}
-
-TEST_F(RegFixture, ShortAndLongNamesReachTheSameKey)
-{
-    ASSERT_TRUE(reg.RegSetValue2("HKCU\\Software\\Vardena 3\\Obra", "Carpeta", "/home/ana/Obras"));
-    EXPECT_EQ(reg.GetRegString("HKEY_CURRENT_USER\\Software\\Vardena 3\\Obra", "Carpeta"), "/home/ana/Obras");
-    EXPECT_EQ(reg.GetRegString("hkcu\\software\\VARDENA 3\\\\obra\\", "carpeta"), "/home/ana/Obras");
-    EXPECT_EQ(reg.GetRegString("HKLM\\Software\\Vardena 3\\Obra", "Carpeta"), "");
-    EXPECT_EQ(reg.GetRegString("XX\\Software\\Vardena 3\\Obra", "Carpeta"), "");
-    EXPECT_FALSE(reg.RegSetValue2("XX\\Software", "a", "b"));
-}
-
-TEST_F(RegFixture, ValueTextsByKind)
-{
-    struct Row {
-        std::string name, text;
-        int type;
-        std::string shown;
-    };
-    const std::vector<Row> rows = {
-        {"Dword", "255", kRegDword, "0x000000FF (255)"},
-        {"DwordHex", "0xff", kRegDword, "0x000000FF (255)"},
-        {"DwordShown", "0x0000000A (10)", kRegDword, "0x0000000A (10)"},
-        {"Zero", "0", kRegDword, "0x00000000 (0)"},
-        {"Max", "4294967295", kRegDword, "0xFFFFFFFF (4294967295)"},
-        {"Bin", "01 0a ff", kRegBinary, "01 0A FF"},
-        {"BinCommas", "00,7F", kRegBinary, "00 7F"},
-        {"Texto", "Descripción \"de\" C:\\obra", kRegSz, "Descripción \"de\" C:\\obra"},
-        {"Lineas", "uno\ndos", kRegSz, "uno\ndos"},
-        {"Expand", "%HOME%/obras", kRegExpandSz, "%HOME%/obras"},
-        {"Multi", "61 00 62 63 00 00", kRegMultiSz, "a; bc"},
-        {"", "por defecto", kRegSz, "por defecto"},
-    };
-    for (const auto& r : rows)
-        ASSERT_TRUE(reg.SetReg("HKCU\\Valores", r.name, r.text, r.type)) << r.name;
-    // A second object reads the file again: what it shows went through the disk.
-    cQueryRegLinux again(reg.file());
-    for (const auto& r : rows)
-        EXPECT_EQ(again.GetReg("HKCU\\Valores", r.name), r.shown) << r.name;
-    EXPECT_EQ(again.GetRegDWord("HKCU\\Valores", "Dword"), 255u);
-    EXPECT_EQ(again.GetRegDWord("HKCU\\Valores", "Texto"), 0u);
-    EXPECT_EQ(again.GetRegBinary("HKCU\\Valores", "Bin"), "01 0A FF");
-    EXPECT_EQ(again.GetRegBinary("HKCU\\Valores", "Dword"), "");
-    EXPECT_EQ(again.GetRegString("HKCU\\Valores", "Dword"), "");
-
-    for (const char* bad : {"", "x", "0x", "4294967296", "-1"})
-        EXPECT_FALSE(reg.SetReg("HKCU\\Valores", "Dword", bad, kRegDword)) << bad;
-    EXPECT_FALSE(reg.SetReg("HKCU\\Valores", "Bin", "0g", kRegBinary));
-    EXPECT_EQ(reg.GetReg("HKCU\\Valores", "Dword"), "0x000000FF (255)");
-}
-
-TEST_F(RegFixture, FileIsRegeditTextInWindows1252WithCrLf)
-{
-    ASSERT_TRUE(reg.AsociarExt("ovd", "Vardena.Obra", "obra", "/usr/bin/vardena"));
-    ASSERT_TRUE(reg.SetReg("HKCU\\Software\\Vardena", "N", "255", kRegDword));
-    EXPECT_EQ(ReadBytes(reg.file()),
-              "REGEDIT4\r\n\r\n"
-              "[HKEY_CLASSES_ROOT\\.ovd]\r\n@=\"Vardena.Obra\"\r\n\r\n"
-              "[HKEY_CLASSES_ROOT\\Vardena.Obra]\r\n@=\"Descripci\xF3n de obra\"\r\n\r\n"
-              "[HKEY_CLASSES_ROOT\\Vardena.Obra\\shell]\r\n\r\n"
-              "[HKEY_CLASSES_ROOT\\Vardena.Obra\\shell\\open]\r\n\r\n"
-              "[HKEY_CLASSES_ROOT\\Vardena.Obra\\shell\\open\\command]\r\n@=\"/usr/bin/vardena %1\"\r\n\r\n"
-              "[HKEY_CURRENT_USER\\Software]\r\n\r\n"
-              "[HKEY_CURRENT_USER\\Software\\Vardena]\r\n\"N\"=dword:000000ff\r\n\r\n");
-    EXPECT_EQ(reg.GetReg("HKCR\\Vardena.Obra", ""), "Descripción de obra");
-
-    ASSERT_TRUE(reg.DesasociarExt(".ovd", "Vardena.Obra"));
-    EXPECT_TRUE(reg.EnumKeys("HKCR").empty());
-    EXPECT_EQ(reg.EnumKeys("HKCU"), std::vector<std::string>{"Software"});
-}
-
-TEST_F(RegFixture, HandWrittenFilesAreRead)
-{
-    WriteBytes(reg.file(),
-               "Windows Registry Editor Version 5.00\r\n\r\n"
-               "; a comment\r\n"
-               "[HKEY_LOCAL_MACHINE\\Software\\Prueba\\Hoja]\r\n"
-               "\"Largo\"=hex:00,01,02,\\\r\n  03,04\r\n"
-               "\"Ruta\"=hex(2):25,48,4f,4d,45,25,00\r\n"
-               "\"Acento\"=\"Mar\xEDn\"\r\n");
-    EXPECT_EQ(reg.GetRegBinary("HKLM\\Software\\Prueba\\Hoja", "Largo"), "00 01 02 03 04");
-    EXPECT_EQ(reg.GetRegString("HKLM\\Software\\Prueba\\Hoja", "Ruta"), "%HOME%");
-    EXPECT_EQ(reg.GetRegString("HKLM\\Software\\Prueba\\Hoja", "Acento"), "Marín");
-    // A key with only subkeys exists although the file has no line of its own for it.
-    EXPECT_NE(reg.OpenKeyEx("HKLM\\Software\\Prueba"), 0);
-    EXPECT_EQ(reg.EnumKeys("HKLM\\Software"), std::vector<std::string>{"Prueba"});
-}
-
-TEST_F(RegFixture, ABrokenFileIsNeverWrittenOver)
-{
-    struct Row {
-        std::string content, where;
-    };
-    const std::vector<Row> rows = {
-        {"REGEDIT4\r\n\r\n[HKCU\\a]\r\n\"x\"=dword:12345678\r\n\"y\"=wrong\r\n", "line 5"},
-        {"REGEDIT4\r\n\"x\"=\"y\"\r\n", "line 2"},
-        {"REGEDIT4\r\n[HKXX\\a]\r\n", "line 2"},
-        {"[HKCU\\a]\r\n", "line 1"},
-        {"REGEDIT4\r\n[HKCU\\a]\r\n\"x\"=dword:123456789\r\n", "line 3"},
-        {"REGEDIT4\r\n[HKCU\\a]\r\n\"x\"=hex:1,2\r\n", "line 3"},
-        {"REGEDIT4\r\n[HKCU\\a]\r\n\"x=\"y\"\r\n", "line 3"},
-    };
-    for (const auto& r : rows) {
-        WriteBytes(reg.file(), r.content);
-        EXPECT_FALSE(reg.RegSetValue2("HKCU\\a", "z", "1")) << r.content;
-        EXPECT_NE(reg.Error().find(reg.file()), std::string::npos) << reg.Error();
-        EXPECT_NE(reg.Error().find(r.where), std::string::npos) << reg.Error();
-        EXPECT_EQ(ReadBytes(reg.file()), r.content);
+    std::string Folder(const std::string& path) const
+    {
+        fs::create_directories(At(path));
+        return At(path);
     }
-    // What could be read before the bad line is still answered.
-    WriteBytes(reg.file(), rows[0].content);
-    EXPECT_EQ(reg.GetRegDWord("HKCU\\a", "x"), 0x12345678u);
-}
+    void UserDirs(const std::string& text, const std::string& configDir = "~/cfg") const
+    {
+        WriteBytes(Folder(configDir) + "/user-dirs.dirs", text);
+    }
+};
 
-TEST_F(RegFixture, OpenKeysEnumerateSubkeysAndValues)
+TEST(ShellFoldersLinux, UserDirsFileNamesTheFolders)
 {
-    reg.RegSetValue2("HKCU\\Software\\V\\Zeta", "", "z");
-    reg.RegSetValue2("HKCU\\Software\\V\\alfa", "", "a");
-    reg.RegSetValue2("HKCU\\Software\\V\\Beta\\Hondo", "", "b");
-    reg.SetReg("HKCU\\Software\\V", "Uno", "1", kRegDword);
-    reg.RegSetValue2("HKCU\\Software\\V", "Dos", "dos");
-
-    EXPECT_EQ(reg.OpenKeyEx("HKCU\\Software\\Nada"), 0);
-    const long h = reg.OpenKeyEx("HKEY_CURRENT_USER\\Software\\V");
-    ASSERT_NE(h, 0);
-    int subKeys = -1, values = -1;
-    ASSERT_TRUE(reg.QueryInfoKey(h, subKeys, values));
-    EXPECT_EQ(subKeys, 3);
-    EXPECT_EQ(values, 2);
-    std::vector<std::string> keys;
-    for (int i = 0; !reg.EnumKeyEx(h, i).empty(); ++i)
-        keys.push_back(reg.EnumKeyEx(h, i));
-    EXPECT_EQ(keys, (std::vector<std::string>{"alfa", "Beta", "Zeta"}));
-    EXPECT_EQ(reg.EnumValue(h, 0), "Uno");
-    EXPECT_EQ(reg.EnumValueString(h, 0), "0x00000001 (1)");
-    EXPECT_EQ(reg.EnumValue(h, 1), "Dos");
-    EXPECT_EQ(reg.EnumValueString(h, 1), "dos");
-    EXPECT_EQ(reg.EnumValue(h, 2), "");
-    EXPECT_EQ(reg.EnumValue(h, -1), "");
-    reg.CloseKey(h);
-    EXPECT_FALSE(reg.QueryInfoKey(h, subKeys, values));
-    EXPECT_EQ(reg.EnumKeyEx(h, 0), "");
-
-    EXPECT_EQ(reg.OpenKeyQuery("HKCU\\Software\\V", "Dos"), "dos");
-    EXPECT_EQ(reg.EnumValues("HKCU\\Software\\V"), (std::vector<std::string>{"Uno", "Dos"}));
-}
-
-TEST_F(RegFixture, DeleteKeyLeavesKeysWithSubkeysDeleteKeyWin95Does)
-{
-    reg.RegSetValue2("HKCU\\Software\\V\\A\\B", "x", "1");
-    reg.RegSetValue2("HKCU\\Software\\V\\C", "x", "1");
-    EXPECT_FALSE(reg.DeleteKey("HKCU\\Software\\V\\A"));
-    EXPECT_FALSE(reg.DeleteKey("HKCU\\Software\\V\\None"));
-    EXPECT_FALSE(reg.DeleteKey("HKCU"));
-    EXPECT_FALSE(reg.DeleteKeyWin95("HKEY_CURRENT_USER"));
-    EXPECT_TRUE(reg.DeleteKey("HKCU\\Software\\V\\C"));
-    EXPECT_TRUE(reg.DeleteKeyWin95("HKCU\\Software\\V\\A"));
-    EXPECT_TRUE(reg.EnumKeys("HKCU\\Software\\V").empty());
-    EXPECT_EQ(reg.EnumKeys("HKCU\\Software"), std::vector<std::string>{"V"});
-}
-
-TEST_F(RegFixture, RegSaveKeyWritesOnlyThatBranch)
-{
-    reg.RegSetValue2("HKCU\\Software\\V\\A", "x", "1");
-    reg.RegSetValue2("HKCU\\Software\\VV", "y", "2");
-    reg.RegSetValue2("HKLM\\Software\\V", "z", "3");
-    ASSERT_TRUE(reg.RegSaveKey("HKCU\\Software\\V", dir / "rama.reg"));
-    EXPECT_EQ(ReadBytes(dir / "rama.reg"), "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\V]\r\n\r\n"
-                                           "[HKEY_CURRENT_USER\\Software\\V\\A]\r\n\"x\"=\"1\"\r\n\r\n");
-    EXPECT_FALSE(reg.RegSaveKey("HKCU\\Software\\None", dir / "none.reg"));
-    EXPECT_FALSE(fs::exists(dir / "none.reg"));
-}
-
-TEST_F(RegFixture, ShellFoldersFromTheRegistryElseFromTheDesktop)
-{
-    ScratchDir home;
-    EnvVar h("HOME", home.path());
-    EnvVar cfg("XDG_CONFIG_HOME", home / "cfg");
-    EnvVar data("XDG_DATA_HOME", home / "data");
-    fs::create_directories(home / "cfg");
-    WriteBytes(home / "cfg/user-dirs.dirs",
-               "# written by xdg-user-dirs-update\nXDG_DESKTOP_DIR=\"$HOME/Escritorio\"\n"
-               "XDG_DOCUMENTS_DIR=\"/srv/documentos\"\n");
+    FakeDesktop desk;
+    ScratchDir elsewhere;
+    fs::create_directories(elsewhere / "Imágenes");
+    for (const char* folder : {"~/Escritorio", "~/Documentos", "~/Comentado", "~/Otra\"Música", "~/Viejas",
+                               "~/Plantillas"})
+        desk.Folder(folder);
+    desk.UserDirs("# This file is written by xdg-user-dirs-update\n"
+                  "XDG_DESKTOP_DIR=\"$HOME/Escritorio\"\r\n"
+                  "XDG_DOCUMENTS_DIR=\"$HOME/Documentos\"\n"
+                  "# XDG_DOCUMENTS_DIR=\"$HOME/Comentado\"\n"
+                  "  XDG_PICTURES_DIR = \"" + elsewhere.path() + "/Imágenes/\"\n"
+                  "XDG_MUSIC_DIR=\"$HOME/Otra\\\"Música\"\n"
+                  "XDG_VIDEOS_DIR=\"$HOME/\"\n"
+                  "XDG_TEMPLATES_DIR=\"$HOME/Viejas\"\n"
+                  "XDG_TEMPLATES_DIR=\"$HOME/Plantillas\"\n");
     struct Row {
         std::string name, folder;
     };
     const std::vector<Row> rows = {
-        {"Desktop", home / "Escritorio"},
-        {"Personal", "/srv/documentos"},
-        {"My Pictures", home.path()},
-        {"AppData", home / "cfg"},
-        {"Local AppData", home / "data"},
-        {"Fonts", home / "data/fonts"},
+        {"Desktop", "~/Escritorio"},
+        {"Personal", "~/Documentos"},
+        {"PERSONAL", "~/Documentos"},
+        {"My Pictures", elsewhere / "Imágenes"},
+        {"My Music", "~/Otra\"Música"},
+        {"My Video", "~"},
+        {"Templates", "~/Plantillas"},
+        {"AppData", "~/data"},
+        {"Local AppData", "~/data"},
         {"Nothing Like It", ""},
+        {"", ""},
     };
     for (const auto& r : rows)
-        EXPECT_EQ(reg.ShellFolders(r.name), r.folder) << r.name;
-    reg.RegSetValue2("HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", "Desktop",
-                     "/mesa");
-    EXPECT_EQ(reg.ShellFolders("Desktop"), "/mesa");
-    EXPECT_EQ(reg.GetFolder("Desktop"), "/mesa");
-    for (const char* name : {"WindowsDir", "SystemDir"}) {
-        const std::string f = reg.GetFolder(name);
-        ASSERT_FALSE(f.empty()) << name;
-        EXPECT_EQ(f.back(), '/') << name;
-        EXPECT_TRUE(fs::is_directory(f)) << name;
+        EXPECT_EQ(desk.reg.ShellFolders(r.name), desk.At(r.folder)) << r.name;
+}
+
+TEST(ShellFoldersLinux, WithoutAUsableEntryTheUsualFolderElseHome)
+{
+    struct Row {
+        std::string what;
+        std::optional<std::string> file;  // nullopt: there is no user-dirs.dirs
+        std::vector<std::string> folders;
+        std::string personal;
+    };
+    const std::vector<Row> rows = {
+        {"no file", std::nullopt, {}, "~"},
+        {"no file, ~/Documents", std::nullopt, {"~/Documents"}, "~/Documents"},
+        {"empty file", "", {"~/Documents"}, "~/Documents"},
+        {"folder not there", "XDG_DOCUMENTS_DIR=\"$HOME/Documentos\"\n", {"~/Documents"}, "~/Documents"},
+        {"folder not there, no ~/Documents", "XDG_DOCUMENTS_DIR=\"$HOME/Documentos\"\n", {}, "~"},
+        {"a file, not a folder", "XDG_DOCUMENTS_DIR=\"$HOME/cfg/user-dirs.dirs\"\n", {}, "~"},
+        {"relative path", "XDG_DOCUMENTS_DIR=\"Documentos\"\n", {"~/Documentos"}, "~"},
+        {"not quoted", "XDG_DOCUMENTS_DIR=$HOME/Documentos\n", {"~/Documentos"}, "~"},
+        {"no closing quote", "XDG_DOCUMENTS_DIR=\"$HOME/Documentos\n", {"~/Documentos"}, "~"},
+        {"$HOME run on", "XDG_DOCUMENTS_DIR=\"$HOMEDocumentos\"\n", {"~Documentos"}, "~"},
+        {"another variable", "XDG_DOCUMENTS_DIRS=\"$HOME/Documentos\"\n", {"~/Documentos"}, "~"},
+    };
+    for (const auto& r : rows) {
+        FakeDesktop desk;
+        for (const auto& f : r.folders)
+            desk.Folder(f);
+        if (r.file)
+            desk.UserDirs(*r.file);
+        EXPECT_EQ(desk.reg.ShellFolders("Personal"), desk.At(r.personal)) << r.what;
+        // Every folder of the user-dirs kind follows the same rule.
+        EXPECT_EQ(desk.reg.ShellFolders("Desktop"), desk.At("~")) << r.what;
     }
 }
 
-TEST(cQueryRegFile, LivesBesideTheSettings)
+TEST(ShellFoldersLinux, ConfigAndDataHomesTakeOnlyAbsolutePaths)
+{
+    struct Row {
+        std::optional<std::string> value;  // nullopt: unset
+        std::string personal;              // from the user-dirs.dirs that is read
+        std::string appData;
+    };
+    const std::vector<Row> rows = {
+        {std::nullopt, "~/PorDefecto", "~/.local/share"},
+        {"", "~/PorDefecto", "~/.local/share"},
+        {"relativo", "~/PorDefecto", "~/.local/share"},
+        {"~/propio", "~/Propio", "~/propio"},
+        {"~/propio/", "~/Propio", "~/propio"},
+    };
+    for (const auto& r : rows) {
+        FakeDesktop desk;
+        desk.Folder("~/PorDefecto");
+        desk.Folder("~/Propio");
+        desk.UserDirs("XDG_DOCUMENTS_DIR=\"$HOME/PorDefecto\"\n", "~/.config");
+        desk.UserDirs("XDG_DOCUMENTS_DIR=\"$HOME/Propio\"\n", "~/propio");
+        const std::optional<std::string> value = r.value ? std::optional(desk.At(*r.value)) : std::nullopt;
+        ScopedEnv config("XDG_CONFIG_HOME", value);
+        ScopedEnv data("XDG_DATA_HOME", value);
+        const std::string what = r.value.value_or("(unset)");
+        EXPECT_EQ(desk.reg.ShellFolders("Personal"), desk.At(r.personal)) << what;
+        EXPECT_EQ(desk.reg.ShellFolders("AppData"), desk.At(r.appData)) << what;
+    }
+}
+
+TEST(ShellFoldersLinux, HomeIsTakenWithoutItsFinalSlash)
+{
+    FakeDesktop desk;
+    ScopedEnv home("HOME", desk.home + "/");
+    desk.Folder("~/Documentos");
+    desk.UserDirs("XDG_DOCUMENTS_DIR=\"$HOME/Documentos\"\n");
+    EXPECT_EQ(desk.reg.ShellFolders("Personal"), desk.At("~/Documentos"));
+    EXPECT_EQ(desk.reg.ShellFolders("Desktop"), desk.home);
+}
+
+TEST(ShellFoldersLinux, GetFolderAddsTheSystemFolders)
+{
+    FakeDesktop desk;
+    desk.Folder("~/Documentos");
+    desk.UserDirs("XDG_DOCUMENTS_DIR=\"$HOME/Documentos\"\n");
+    struct Row {
+        std::string name, folder;
+    };
+    const std::vector<Row> rows = {
+        {"WindowsDir", "/"},
+        {"windowsdir", "/"},
+        {"SystemDir", "/usr/lib/"},
+        {"Personal", desk.At("~/Documentos")},
+        {"AppData", desk.At("~/data")},
+        {"Nothing Like It", ""},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(desk.reg.GetFolder(r.name), r.folder) << r.name;
+    for (const char* name : {"WindowsDir", "SystemDir"}) {
+        const std::string f = desk.reg.GetFolder(name);
+        EXPECT_TRUE(fs::is_directory(f)) << name;
+        EXPECT_EQ(desk.reg.ShellFolders(name), "") << name;
+    }
+}
+
+TEST(ShellFoldersLinux, EveryOtherOperationAnswersNoRegistry)
 {
     ScratchDir dir;
-    EnvVar settings("VARDENA_SETTINGS", dir / "conf/Vardena 3.ini");
-    EXPECT_EQ(cQueryRegLinux::DefaultPath(), dir / "conf/Registro.reg");
-    cQueryRegLinux reg;
-    ASSERT_TRUE(reg.RegSetValue2("HKCU\\a", "b", "c"));
-    EXPECT_TRUE(fs::exists(dir / "conf/Registro.reg"));
+    cQueryRegLinux platform;
+    cQueryReg& reg = platform;
+    const std::string key = "HKCU\\Software\\Vardena 3\\Obra";
+    const std::string saved = dir / "rama.reg";
+    struct Row {
+        std::string operation;
+        std::function<bool()> answersNothing;
+    };
+    const std::vector<Row> rows = {
+        {"SetReg", [&] { return !reg.SetReg(key, "N", "255", kRegDword); }},
+        {"RegSetValue2", [&] { return !reg.RegSetValue2(key, "Carpeta", "/home/ana"); }},
+        {"AsociarExt", [&] { return !reg.AsociarExt("ovd", "Vardena.Obra", "obra", "/usr/bin/vardena"); }},
+        {"GetRegDWord", [&] { return reg.GetRegDWord(key, "N") == 0; }},
+        {"GetReg", [&] { return reg.GetReg(key, "Carpeta").empty(); }},
+        {"GetRegBinary", [&] { return reg.GetRegBinary(key, "N").empty(); }},
+        {"GetRegString", [&] { return reg.GetRegString(key, "Carpeta").empty(); }},
+        {"QueryRegBase", [&] { return !reg.QueryRegBase(key, "Carpeta").has_value(); }},
+        {"OpenKeyEx", [&] { return reg.OpenKeyEx(key) == 0; }},
+        {"OpenKeyQuery", [&] { return reg.OpenKeyQuery(key, "Carpeta").empty(); }},
+        {"EnumValueString", [&] { return reg.EnumValueString(1, 0).empty(); }},
+        {"EnumValue", [&] { return reg.EnumValue(1, 0).empty(); }},
+        {"QueryInfoKey",
+         [&] {
+             int subKeys = -1, values = -1;
+             return !reg.QueryInfoKey(1, subKeys, values) && subKeys == 0 && values == 0;
+         }},
+        {"EnumKeyEx", [&] { return reg.EnumKeyEx(1, 0).empty(); }},
+        {"CloseKey",
+         [&] {
+             reg.CloseKey(1);
+             return true;
+         }},
+        {"EnumKeys", [&] { return reg.EnumKeys("HKCU\\Software").empty(); }},
+        {"EnumValues", [&] { return reg.EnumValues(key).empty(); }},
+        {"RegSaveKey", [&] { return !reg.RegSaveKey(key, saved) && !fs::exists(saved); }},
+        {"DesasociarExt", [&] { return !reg.DesasociarExt("ovd", "Vardena.Obra"); }},
+        {"DeleteKey", [&] { return !reg.DeleteKey(key); }},
+        {"DeleteKeyWin95", [&] { return !reg.DeleteKeyWin95("HKCU\\Software"); }},
+    };
+    // The writers come first: what they were asked to store must not show up in the readers.
+    for (const auto& r : rows)
+        EXPECT_TRUE(r.answersNothing()) << r.operation;
 }
 
 }  // namespace

@@ -32,6 +32,9 @@ void PrintLog(const ConversionLog& log, bool dryRun, std::ostream& out)
 {
     out << (dryRun ? "dry run of " : "conversion of ") << log.work << "\n";
     for (const auto& e : log.entries) {
+        // Why the run stopped is said once, below the records.
+        if (e.status == ConversionEntry::Status::Failed)
+            continue;
         out << "  " << StatusName(e.status) << ": " << ArchivoDe(e.file);
         if (!e.form.empty())
             out << " [" << e.form << "]";
@@ -103,8 +106,9 @@ void CatchStopSignals()
 // What became of each work, for the closing total.
 struct Summary {
     int converted = 0;
-    std::vector<std::pair<std::string, std::string>> refused;     // work, why
-    std::vector<std::pair<std::string, std::string>> rolledBack;  // work, why
+    std::string lastConverted;  // the work's folder, as the log names it
+    std::vector<std::pair<std::string, std::string>> refused;     // work, the sentence that says why
+    std::vector<std::pair<std::string, std::string>> rolledBack;  // work, the sentence that says why
     std::vector<std::pair<std::string, std::string>> leftAlone;   // work, why (not of 3.00/3.01)
 };
 
@@ -135,7 +139,7 @@ int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, con
             std::cerr << "vardena: " << Mensaje(d, 1430, {info.folder, copy}) << "\n";
         } catch (const FileError& e) {
             const std::string msg = Mensaje(d, 1401, {info.folder, e.what()});
-            summary.refused.push_back({info.folder, e.what()});
+            summary.refused.push_back({info.folder, msg});
             log.error = msg;
             log.end = ConversionLog::End::Refused;
             if (opt.json)
@@ -172,8 +176,10 @@ int ConvertOne(Aplicacion& app, const std::string& work, const Options& opt, con
             summary.rolledBack.push_back({info.folder, log.error});
         return kFailure;
     }
-    if (!opt.dryRun)
+    if (!opt.dryRun) {
         ++summary.converted;
+        summary.lastConverted = info.folder;
+    }
     for (const auto& e : log.entries)
         if (e.status == ConversionEntry::Status::Refused)
             return kRefusedRecords;
@@ -241,7 +247,7 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
             rc = ConvertOne(fresh, w, opt, backupDir, json, summary);
         } catch (const FileError& e) {
             const std::string msg = Mensaje(d, 1401, {w, e.what()});
-            summary.refused.push_back({w, e.what()});
+            summary.refused.push_back({w, msg});
             std::cerr << "vardena: error: " << msg << "\n";
             rc = kFailure;
         }
@@ -289,9 +295,9 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
     // The verdict is the last line.
     if (all.empty()) {
         if (summary.converted == 1)
-            std::cout << Mensaje(d, 1402, {std::filesystem::absolute(works[0]).lexically_normal().string()}) << "\n";
+            std::cout << Mensaje(d, 1402, {summary.lastConverted}) << "\n";
         else if (!summary.refused.empty())
-            std::cout << Mensaje(d, 1401, {summary.refused[0].first, summary.refused[0].second}) << "\n";
+            std::cout << summary.refused[0].second << "\n";
         else if (!summary.rolledBack.empty())
             std::cout << summary.rolledBack[0].second << "\n";
         else if (!summary.leftAlone.empty())

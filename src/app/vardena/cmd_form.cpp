@@ -11,6 +11,7 @@
 #include "frame/Formularios.h"
 #include "base/FileIo.h"
 #include "base/Form.h"
+#include "works/Registros.h"
 #include "works/Obra.h"
 
 namespace vardena::cli {
@@ -175,16 +176,6 @@ std::string PropiedadPorDefecto(const Control& c)
     }
 }
 
-// The properties a stored composite control keeps, in the order of its record.
-std::vector<std::string> PropiedadesCompuesto(const Control& c)
-{
-    if (c.kind() != Kind::UCPerfil)
-        return StoredProperties(c.kind());
-    const std::string perfil = c.Get("Perfil");
-    if (SameNameNoCase(perfil, "otro") || SameNameNoCase(perfil, "xxx"))
-        return {"Num", "Perfil", "Canto", "Ancho", "Area", "Ix", "Iy"};
-    return StoredProperties(Kind::UCPerfil);
-}
 
 // ---- Plain text output: tab-separated columns, control characters escaped ----
 
@@ -221,7 +212,7 @@ std::vector<std::string> Columnas(const Control& c)
     case Kind::PictureBox:
     case Kind::CommandButton: out = {Escapa(c.Caption())}; break;
     default:
-        for (const auto& p : PropiedadesCompuesto(c))
+        for (const auto& p : PropiedadesGuardadas(c, false))
             out.push_back(p + "=" + Escapa(c.Get(p)));
     }
     if (!IsStored(c.kind())) {
@@ -268,7 +259,7 @@ std::string JsonValor(const Control& c)
     case Kind::CommandButton: return "\"caption\": " + Json(c.Caption());
     default: {
         std::string props;
-        for (const auto& p : PropiedadesCompuesto(c))
+        for (const auto& p : PropiedadesGuardadas(c, false))
             props += (props.empty() ? "" : ", ") + Json(p) + ": " + Json(c.Get(p));
         return "\"properties\": {" + props + "}";
     }
