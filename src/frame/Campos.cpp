@@ -6,37 +6,6 @@
 #include "base/FileIo.h"
 
 namespace vardena {
-namespace {
-
-struct Letra {
-    char letra;
-    Kind tipo;
-};
-constexpr Letra kLetras[] = {
-    {'T', Kind::TextBox},   {'C', Kind::ComboBox},     {'O', Kind::OptionButton},
-    {'K', Kind::CheckBox},  {'N', Kind::UCNumDiam},    {'S', Kind::UCNumDiamSep},
-    {'Z', Kind::UCZapatas}, {'M', Kind::UCMallazo},    {'P', Kind::UCPerfil},
-};
-
-
-}  // namespace
-
-Kind TipoDeLetra(char letra)
-{
-    for (const auto& l : kLetras)
-        if (l.letra == letra)
-            return l.tipo;
-    throw std::invalid_argument(std::string("field kind letter '") + letra + "' is none of T C O K N S Z M P");
-}
-
-char LetraDeTipo(Kind k)
-{
-    for (const auto& l : kLetras)
-        if (l.tipo == k)
-            return l.letra;
-    return '?';
-}
-
 std::string_view TextoDeDiseno(const CampoDef& campo, size_t miembro)
 {
     if (campo.textos.size() == 1)

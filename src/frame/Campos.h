@@ -14,14 +14,23 @@
 
 namespace vardena {
 
+// The stored kinds under the short names the field tables use.
+inline constexpr Kind kTexto = Kind::TextBox;
+inline constexpr Kind kLista = Kind::ComboBox;
+inline constexpr Kind kOpcion = Kind::OptionButton;
+inline constexpr Kind kCasilla = Kind::CheckBox;
+inline constexpr Kind kNumDiam = Kind::UCNumDiam;
+inline constexpr Kind kNumDiamSep = Kind::UCNumDiamSep;
+inline constexpr Kind kZapatas = Kind::UCZapatas;
+inline constexpr Kind kMallazo = Kind::UCMallazo;
+inline constexpr Kind kPerfil = Kind::UCPerfil;
+
 // One entry of a field list: a control, or a stretch of members of a control array.
 struct CampoDef {
     std::string_view nombre;
     // Indices of the members in the order the form defines them; empty for a plain control.
     std::vector<int> indices;
-    // T text box, C combo box, O option button, K check box, N UCNumDiam, S UCNumDiamSep,
-    // Z UCZapatas, M UCMallazo, P UCPerfil.
-    char tipo;
+    Kind tipo;
     // Design-time texts of text boxes: one for all members when only one stands, else one per
     // member in order; members past the last text are empty.
     std::vector<std::string_view> textos = {};
@@ -33,9 +42,6 @@ struct TablaForm {
     std::vector<CampoDef> campos;
 };
 
-// The kind of a field letter; throws std::invalid_argument for a letter that is none.
-Kind TipoDeLetra(char letra);
-char LetraDeTipo(Kind k);
 
 // The design text of member `miembro` (0-based position within the entry).
 std::string_view TextoDeDiseno(const CampoDef& campo, size_t miembro);

@@ -93,7 +93,7 @@ ElementForm::ElementForm(Declaraciones& d, const TablaForm& tabla)
 
 void ElementForm::CreaCampo(const CampoDef& campo, int index, size_t miembro)
 {
-    Control& c = Add(TipoDeLetra(campo.tipo), std::string(campo.nombre), index);
+    Control& c = Add(campo.tipo, std::string(campo.nombre), index);
     if (c.kind() == Kind::TextBox) {
         c.designText = std::string(TextoDeDiseno(campo, miembro));
         c.SetText(c.designText);

@@ -124,7 +124,7 @@ TEST(ControlesVisibles, CommonRowsNameFieldsOfSomeForm)
             for (const CampoDef& campo : tabla.campos) {
                 const std::string_view n = prefijo ? campo.nombre.substr(0, std::min(nombre.size(), campo.nombre.size()))
                                                    : campo.nombre;
-                found = found || (SameNameNoCase(n, nombre) && TipoDeLetra(campo.tipo) == v.kind);
+                found = found || (SameNameNoCase(n, nombre) && campo.tipo == v.kind);
             }
         EXPECT_TRUE(found);
     }

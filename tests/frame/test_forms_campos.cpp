@@ -42,14 +42,13 @@ TEST(FormTables, EveryTableIsWellFormed)
     for (const auto& t : TablasCampos()) {
         SCOPED_TRACE(std::string(t.nombre));
         std::set<std::pair<std::string, int>> seen;
-        std::map<std::string, char> kindOf;
+        std::map<std::string, Kind> kindOf;
         std::map<std::string, bool> isArray;
         int titles = 0;
         for (const auto& c : t.campos) {
             const std::string name(c.nombre);
-            EXPECT_NO_THROW(TipoDeLetra(c.tipo)) << name;
             if (!c.textos.empty()) {
-                EXPECT_EQ(c.tipo, 'T') << name << " has design texts but is no text box";
+                EXPECT_EQ(c.tipo, Kind::TextBox) << name << " has design texts but is no text box";
                 EXPECT_LE(c.textos.size(), std::max<size_t>(1, c.indices.size())) << name;
             }
             auto [k, fresh] = kindOf.emplace(name, c.tipo);
@@ -61,7 +60,7 @@ TEST(FormTables, EveryTableIsWellFormed)
             }
             for (int i : c.indices)
                 EXPECT_TRUE(seen.insert({name, i}).second) << name << "(" << i << ") defined twice";
-            titles += name == "txtTitulo" && c.indices.empty() && c.tipo == 'T';
+            titles += name == "txtTitulo" && c.indices.empty() && c.tipo == Kind::TextBox;
         }
         EXPECT_EQ(titles, 1) << "every record carries its title once";
     }
@@ -81,12 +80,12 @@ TEST(FormTables, EveryFormHasItsLifeCycleRowAndEveryRowItsForm)
 
 TEST(FormTables, DesignTextsFollowTheOneForAllRule)
 {
-    const CampoDef uno{"TxtPil", {7, 6, 3, 2}, 'T', {"30"}};
-    const CampoDef varios{"txtEspesor", {4, 3, 2, 1, 0, 5}, 'T', {"5", "5", "5", "5", "12"}};
+    const CampoDef uno{"TxtPil", {7, 6, 3, 2}, kTexto, {"30"}};
+    const CampoDef varios{"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}};
     EXPECT_EQ(TextoDeDiseno(uno, 3), "30");
     EXPECT_EQ(TextoDeDiseno(varios, 4), "12");
     EXPECT_EQ(TextoDeDiseno(varios, 5), "");
-    EXPECT_EQ(NumeroControles({"x", "", {uno, varios, {"Check1", {}, 'K'}}}), 11);
+    EXPECT_EQ(NumeroControles({"x", "", {uno, varios, {"Check1", {}, kCasilla}}}), 11);
 }
 
 // What the table says the named record of a form holds, control by control; the value of a
@@ -104,7 +103,7 @@ void ExpectRecordFollowsTable(const TablaForm& t, const Form& form, bool textVal
             ASSERT_LT(k, got.size()) << "record ends before " << label;
             const ControlNombrado& c = got[k];
             ASSERT_EQ(c.etiqueta, label) << "control " << k;
-            const Kind kind = TipoDeLetra(campo.tipo);
+            const Kind kind = campo.tipo;
             EXPECT_EQ(c.tipo, KindName(kind)) << label;
             const Control& ctl = form.At(campo.nombre, campo.indices.empty() ? -1 : campo.indices[m]);
             const bool propia = kind == Kind::UCPerfil && EsSeccionPropia(ctl.Get("Perfil"));
