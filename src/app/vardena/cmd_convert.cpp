@@ -190,23 +190,30 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
 {
     Options opt;
     std::string all;
+    bool allFlag = false;
     for (size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
         if (a == "--dry-run")
             opt.dryRun = true;
         else if (a == "--json")
             opt.json = true;
-        else if (a == "--backup" && i + 1 < args.size())
+        // An option's value is never another option.
+        else if (a == "--backup" && i + 1 < args.size() && args[i + 1].rfind("--", 0) != 0)
             opt.backup = args[++i];
-        else if (a == "--all" && i + 1 < args.size())
-            all = args[++i];
+        // "--all" makes the one folder named a folder of works, wherever the option stands.
+        else if (a == "--all")
+            allFlag = true;
         else if (!a.empty() && a[0] == '-')
             return Usage("convert");
         else
             opt.works.push_back(a);
     }
-    if (all.empty() == opt.works.empty() || opt.works.size() > 1)
+    if (opt.works.size() != 1)
         return Usage("convert");
+    if (allFlag) {
+        all = opt.works[0];
+        opt.works.clear();
+    }
     const Declaraciones& d = app.decl;
     std::vector<std::string> works = opt.works;
     if (!all.empty()) {
