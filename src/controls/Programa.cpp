@@ -25,9 +25,25 @@
 #include "application/Aplicacion.h"
 #include "application/Arranque.h"
 #include "works/Catalogo.h"
+#include "works/Subrut.h"
 
 namespace vardena {
 namespace {
+
+// Texts of the main window that its form has no control for: numbers of the message table.
+constexpr int kMsgCarpetaObras = 1440;
+constexpr int kMsgDisco = 1441;
+constexpr int kMsgDirectorio = 1442;
+constexpr int kMsgEligeCarpeta = 1443;
+constexpr int kMsgObras = 1444;
+constexpr int kMsgObraSeleccionada = 1445;
+constexpr int kMsgContenido = 1446;
+constexpr int kMsgSinElementos = 1447;
+constexpr int kMsgComoConvertir = 1448;
+constexpr int kMsgConvirtiendo = 1449;
+constexpr int kMsgNoDisponible = 1450;
+// The title of the search for works.
+constexpr int kMsgBuscaObras = 141;
 
 // The crossed-out picture of a work with no elements.
 QPixmap Tachado()
@@ -47,9 +63,9 @@ QPixmap Tachado()
     return px;
 }
 
-QGroupBox* Grupo(const QString& titulo)
+QGroupBox* Grupo()
 {
-    auto* g = new QGroupBox(titulo);
+    auto* g = new QGroupBox();
     g->setStyleSheet("QGroupBox { font-weight: bold; color: #1d3557; } QGroupBox * { font-weight: normal; }");
     return g;
 }
@@ -91,11 +107,11 @@ VentanaMenu::VentanaMenu(Programa& programa, std::unique_ptr<vardena::Menu> menu
     g.progreso = [this](int hecho, int total, const std::string& que) {
         progreso_->setMaximum(std::max(total, 1));
         progreso_->setValue(hecho);
-        statusBar()->showMessage(Q("Convirtiendo " + que));
+        statusBar()->showMessage(Q(Mensaje(menu_->decl(), kMsgConvirtiendo, {que})));
     };
     g.buscaObras = [this] {
-        const QString carpeta = QFileDialog::getExistingDirectory(this, "Buscar obras de Vardena",
-                                                                  Q(programa_.app().decl.DirObras));
+        const QString carpeta =
+            QFileDialog::getExistingDirectory(this, Texto(kMsgBuscaObras), Q(programa_.app().decl.DirObras));
         if (!carpeta.isEmpty())
             SaveSetting(programa_.app().decl, "Obra", "Directorio", carpeta.toStdString());
     };
@@ -119,6 +135,14 @@ VentanaMenu::~VentanaMenu()
     for (QObject* hijo : children())
         if (auto* w = qobject_cast<QWidget*>(hijo))
             delete w;
+}
+
+QString VentanaMenu::Texto(int mensaje) const { return Q(Mensaje(menu_->decl(), mensaje)); }
+
+void VentanaMenu::Rotula(std::function<void()> pone)
+{
+    pone();
+    rotulos_.push_back(std::move(pone));
 }
 
 QAction* VentanaMenu::Accion(const std::string& item) const
@@ -158,31 +182,43 @@ QWidget* VentanaMenu::CreaCentro()
 
     // The folder and its works.
     auto* izquierda = new QVBoxLayout();
-    auto* gCarpeta = Grupo("Carpeta de las obras");
+    // Titles and labels of the layout's own making follow the language through Rotula.
+    auto grupo = [this](int mensaje) {
+        QGroupBox* g = Grupo();
+        Rotula([this, g, mensaje] { g->setTitle(Texto(mensaje)); });
+        return g;
+    };
+    auto etiqueta = [this](int mensaje) {
+        QLabel* l = Etiqueta("");
+        Rotula([this, l, mensaje] { l->setText(Texto(mensaje)); });
+        return l;
+    };
+    auto* gCarpeta = grupo(kMsgCarpetaObras);
     carpetas_ = gCarpeta;
     auto* c = new QVBoxLayout(gCarpeta);
-    c->addWidget(Etiqueta(menu_->At("Drive1").Caption()));
+    c->addWidget(etiqueta(kMsgDisco));
     c->addWidget(vista_->Widget("Drive1"));
-    c->addWidget(Etiqueta(menu_->At("Dire").Caption()));
+    c->addWidget(etiqueta(kMsgDirectorio));
     auto* filaDire = new QHBoxLayout();
     OpcionesAdaptador alTerminar;
     alTerminar.alTerminar = true;
     filaDire->addWidget(vista_->Widget("Dire", -1, alTerminar), 1);
-    auto* elegir = new QPushButton("…");
-    elegir->setToolTip("Elegir la carpeta de las obras");
+    // The ellipsis is the sign of a choice of folder in every language.
+    auto* elegir = new QPushButton(QStringLiteral("\u2026"));
+    Rotula([this, elegir] { elegir->setToolTip(Texto(kMsgEligeCarpeta)); });
     elegir->setFixedWidth(32);
     connect(elegir, &QPushButton::clicked, this, [this] { EligeCarpeta(); });
     filaDire->addWidget(elegir);
     c->addLayout(filaDire);
     izquierda->addWidget(gCarpeta);
-    auto* gObras = Grupo(Q(menu_->At("List1").Caption()));
+    auto* gObras = grupo(kMsgObras);
     auto* o = new QVBoxLayout(gObras);
     o->addWidget(vista_->Widget("List1"));
     izquierda->addWidget(gObras, 1);
     h->addLayout(izquierda, 3);
 
     // The selected work.
-    auto* gObra = Grupo("Obra seleccionada");
+    auto* gObra = grupo(kMsgObraSeleccionada);
     auto* w = new QVBoxLayout(gObra);
     auto* version = new QHBoxLayout();
     version->addWidget(vista_->Widget("Label3"));
@@ -191,16 +227,19 @@ QWidget* VentanaMenu::CreaCentro()
     version->addWidget(lbvers);
     version->addStretch();
     w->addLayout(version);
-    w->addWidget(Etiqueta(menu_->At("Outlin").Caption()));
+    w->addWidget(etiqueta(kMsgContenido));
     contenido_ = new QStackedWidget();
     contenido_->addWidget(vista_->Widget("Outlin"));
     auto* tachado = new QLabel();
     tachado->setPixmap(Tachado());
     tachado->setAlignment(Qt::AlignCenter);
-    tachado->setToolTip("La obra no tiene elementos guardados");
+    Rotula([this, tachado] { tachado->setToolTip(Texto(kMsgSinElementos)); });
     contenido_->addWidget(tachado);
     w->addWidget(contenido_, 2);
-    w->addWidget(Etiqueta(menu_->At("descr").ToolTipText()));
+    // The description's label is its tool tip, which the language pack gives.
+    QLabel* tituloDescr = Etiqueta("");
+    Rotula([this, tituloDescr] { tituloDescr->setText(Q(menu_->At("descr").ToolTipText())); });
+    w->addWidget(tituloDescr);
     OpcionesAdaptador varias;
     varias.multilinea = true;
     QWidget* descr = vista_->Widget("descr", -1, varias);
@@ -217,7 +256,7 @@ QWidget* VentanaMenu::CreaCentro()
     h->addWidget(gObra, 4);
 
     // The steps.
-    auto* gPasos = Grupo("Cómo convertir una obra");
+    auto* gPasos = grupo(kMsgComoConvertir);
     gPasos->setStyleSheet(gPasos->styleSheet() + " QGroupBox { background: #eef3f9; }");
     auto* p = new QVBoxLayout(gPasos);
     for (size_t i = 1; i <= TextosPasos().size(); ++i) {
@@ -234,6 +273,8 @@ QWidget* VentanaMenu::CreaCentro()
 void VentanaMenu::Actualiza()
 {
     setWindowTitle(Q(menu_->Caption()));
+    for (const auto& pone : rotulos_)
+        pone();
     contenido_->setCurrentIndex(menu_->At("tachado").Visible() ? 1 : 0);
     carpetas_->setVisible(menu_->At("Dire").Visible());
     for (const auto& [nombre, m] : menus_) {
@@ -257,7 +298,7 @@ void VentanaMenu::Actualiza()
 void VentanaMenu::EligeCarpeta()
 {
     const QString carpeta =
-        QFileDialog::getExistingDirectory(this, Q(menu_->At("Dire").Caption()), Q(menu_->At("Dire").Text()));
+        QFileDialog::getExistingDirectory(this, Texto(kMsgDirectorio), Q(menu_->At("Dire").Text()));
     if (!carpeta.isEmpty())
         vista_->Ejecuta([this, carpeta] { menu_->At("Dire").SetText(carpeta.toStdString()); });
 }
@@ -381,8 +422,7 @@ std::unique_ptr<Form> Programa::CargaVentana(const std::string& nombre, const st
         }
     });
     if (!form)
-        d.ui.MsgBox("Esta ventana no está disponible en esta versión: " + (nombre.empty() ? pedido : nombre),
-                    mb::Information, "");
+        d.ui.MsgBox(Mensaje(d, kMsgNoDisponible, {nombre.empty() ? pedido : nombre}), mb::Information, "");
     return form;
 }
 

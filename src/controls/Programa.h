@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "controls/Ventanas.h"
 #include "controls/Vista.h"
@@ -43,6 +44,11 @@ private:
     QWidget* CreaCentro();
     void Actualiza();
     void EligeCarpeta();
+    // The text of a message of the pack, "[n]" when the pack lacks it.
+    QString Texto(int mensaje) const;
+    // Keeps a text of the window's own layout in step with the language: `pone` is run now
+    // and again at each refresh, after a change of language among others.
+    void Rotula(std::function<void()> pone);
 
     Programa& programa_;
     std::unique_ptr<Menu> menu_;
@@ -52,6 +58,7 @@ private:
     QStackedWidget* contenido_ = nullptr;
     QProgressBar* progreso_ = nullptr;
     QWidget* carpetas_ = nullptr;
+    std::vector<std::function<void()>> rotulos_;
     bool cerrada_ = false;
 };
 

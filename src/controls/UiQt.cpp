@@ -19,23 +19,59 @@
 #include "works/Subrut.h"
 
 namespace vardena {
+namespace {
+
+// The texts of the boxes and of the error window: numbers of the message table.
+constexpr int kMsgTituloCaja = 1451;
+constexpr int kMsgAceptar = 1452;
+constexpr int kMsgCancelar = 1453;
+constexpr int kMsgAnular = 1454;
+constexpr int kMsgReintentar = 1455;
+constexpr int kMsgOmitir = 1456;
+constexpr int kMsgSi = 1457;
+constexpr int kMsgNo = 1458;
+constexpr int kMsgTituloError = 1459;
+constexpr int kMsgExplicaError[] = {1460, 1461, 1462, 1463, 1464};
+constexpr int kMsgOrigenError = 1465;
+constexpr int kMsgAbreDetalle = 1466;
+constexpr int kMsgCierraDetalle = 1467;
+constexpr int kMsgGuardar = 1468;
+constexpr int kMsgSalir = 1469;
+
+// The answers of a box and the button of the window system that stands for each, whose own
+// word is the caption while no message table is at hand (a box shown before the program's
+// state exists).
+QMessageBox::StandardButton BotonEstandar(int respuesta)
+{
+    switch (respuesta) {
+    case mb::Ok: return QMessageBox::Ok;
+    case mb::Cancel: return QMessageBox::Cancel;
+    case 3: return QMessageBox::Abort;
+    case mb::Retry: return QMessageBox::Retry;
+    case 5: return QMessageBox::Ignore;
+    case mb::Yes: return QMessageBox::Yes;
+    default: return QMessageBox::No;
+    }
+}
+
+}  // namespace
 
 std::vector<BotonRespuesta> BotonesDeEstilo(int style)
 {
     switch (style & 7) {
-    case mb::OkCancel: return {{"Aceptar", mb::Ok}, {"Cancelar", mb::Cancel}};
-    case 2: return {{"Anular", 3}, {"Reintentar", mb::Retry}, {"Omitir", 5}};
-    case mb::YesNoCancel: return {{"Sí", mb::Yes}, {"No", mb::No}, {"Cancelar", mb::Cancel}};
-    case mb::YesNo: return {{"Sí", mb::Yes}, {"No", mb::No}};
-    case 5: return {{"Reintentar", mb::Retry}, {"Cancelar", mb::Cancel}};
-    default: return {{"Aceptar", mb::Ok}};
+    case mb::OkCancel: return {{kMsgAceptar, mb::Ok}, {kMsgCancelar, mb::Cancel}};
+    case 2: return {{kMsgAnular, 3}, {kMsgReintentar, mb::Retry}, {kMsgOmitir, 5}};
+    case mb::YesNoCancel: return {{kMsgSi, mb::Yes}, {kMsgNo, mb::No}, {kMsgCancelar, mb::Cancel}};
+    case mb::YesNo: return {{kMsgSi, mb::Yes}, {kMsgNo, mb::No}};
+    case 5: return {{kMsgReintentar, mb::Retry}, {kMsgCancelar, mb::Cancel}};
+    default: return {{kMsgAceptar, mb::Ok}};
     }
 }
 
 int UiQt::MsgBox(std::string_view prompt, int style, std::string_view title)
 {
     QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(title.empty() ? QString("Vardena 3") : Q(std::string(title)));
+    box.setWindowTitle(Q(title.empty() && decl ? Mensaje(*decl, kMsgTituloCaja) : std::string(title)));
     box.setText(Q(std::string(prompt)).replace("\r\n", "\n"));
     switch (style & 0x70) {
     case mb::Critical: box.setIcon(QMessageBox::Critical); break;
@@ -47,8 +83,11 @@ int UiQt::MsgBox(std::string_view prompt, int style, std::string_view title)
     std::vector<std::pair<QAbstractButton*, int>> botones;
     for (const BotonRespuesta& b : BotonesDeEstilo(style)) {
         const bool cancela = b.respuesta == mb::Cancel || (b.respuesta == mb::No && (style & 7) == mb::YesNo);
-        botones.push_back({box.addButton(Q(b.texto), cancela ? QMessageBox::RejectRole : QMessageBox::AcceptRole),
-                           b.respuesta});
+        const std::string texto = decl ? decl->Msg(b.mensaje) : std::string();
+        QAbstractButton* boton =
+            texto.empty() ? box.addButton(BotonEstandar(b.respuesta))
+                          : box.addButton(Q(texto), cancela ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+        botones.push_back({boton, b.respuesta});
     }
     box.exec();
     for (const auto& [boton, respuesta] : botones)
@@ -69,9 +108,15 @@ bool UiQt::ErrorFrm(std::string_view origin, int number, std::string_view descri
     return dialogo.exec() == QDialog::Accepted;
 }
 
+QString ErrorDialog::Texto(int mensaje, std::initializer_list<std::string> args) const
+{
+    // Without the program's state the window still names what each text is.
+    return d_ ? Q(Mensaje(*d_, mensaje, args)) : QStringLiteral("[%1]").arg(mensaje);
+}
+
 ErrorDialog::ErrorDialog(Declaraciones* d, const DatosError& e, QWidget* parent) : QDialog(parent), d_(d)
 {
-    setWindowTitle(" Error Vardena");
+    setWindowTitle(Texto(kMsgTituloError));
     setModal(true);
     if (d && Setting(*d, "Preferencias", "SiempreVisible") == "Si")
         setWindowFlag(Qt::WindowStaysOnTopHint, true);
@@ -80,27 +125,23 @@ ErrorDialog::ErrorDialog(Declaraciones* d, const DatosError& e, QWidget* parent)
     textoError_ = vardena::TextoError(e, fecha, facts);
 
     auto* v = new QVBoxLayout(this);
-    auto* titulo = new QLabel("La aplicación ha generado un error. Lamentamos las molestias ocasionadas.");
-    titulo->setStyleSheet("font-weight: bold; color: #8b1a1a;");
-    v->addWidget(titulo);
-    for (const char* texto : {"Sería conveniente que tome nota detallada de la situación en que se produjo y lo "
-                              "comunicase al equipo de desarrollo del programa.",
-                              "Si pulsa 'Guardar' se almacenarán en disco los datos relacionados con este error.",
-                              "Si pulsa 'Reintentar' se intentará continuar con la aplicación.",
-                              "Pulsando 'Salir' terminará la ejecución del programa."}) {
-        auto* l = new QLabel(texto);
-        l->setWordWrap(true);
+    for (int mensaje : kMsgExplicaError) {
+        auto* l = new QLabel(Texto(mensaje));
+        if (mensaje == kMsgExplicaError[0])
+            l->setStyleSheet("font-weight: bold; color: #8b1a1a;");
+        else
+            l->setWordWrap(true);
         v->addWidget(l);
     }
-    auto* origen = new QLabel(Q("Error Nº " + std::to_string(e.numero) + " en " + e.origen + ": " + e.descripcion));
+    auto* origen = new QLabel(Texto(kMsgOrigenError, {std::to_string(e.numero), e.origen, e.descripcion}));
     origen->setWordWrap(true);
     origen->setStyleSheet("background: #fff4e0; padding: 4px;");
     v->addWidget(origen);
     auto* botones = new QHBoxLayout();
-    botonDetalle_ = new QPushButton("Detalles >>");
-    auto* guardar = new QPushButton("Guardar");
-    auto* reintentar = new QPushButton("Reintentar");
-    auto* salir = new QPushButton("Salir");
+    botonDetalle_ = new QPushButton(Texto(kMsgAbreDetalle));
+    auto* guardar = new QPushButton(Texto(kMsgGuardar));
+    auto* reintentar = new QPushButton(Texto(kMsgReintentar));
+    auto* salir = new QPushButton(Texto(kMsgSalir));
     for (QPushButton* b : {botonDetalle_, guardar, reintentar, salir})
         botones->addWidget(b);
     v->addLayout(botones);
@@ -121,11 +162,11 @@ bool ErrorDialog::DetalleVisible() const { return !detalle_->isHidden(); }
 void ErrorDialog::cmd_Detail()
 {
     // The window grows by the detail box and a margin, and comes back to its size on closing it.
-    const bool abre = botonDetalle_->text() == "Detalles >>";
+    const bool abre = !DetalleVisible();
     if (abre)
         altoCerrado_ = height();
     detalle_->setVisible(abre);
-    botonDetalle_->setText(abre ? "Detalles <<" : "Detalles >>");
+    botonDetalle_->setText(Texto(abre ? kMsgCierraDetalle : kMsgAbreDetalle));
     layout()->invalidate();
     layout()->activate();
     if (!abre)
@@ -145,10 +186,18 @@ void ErrorDialog::GuardaErr()
             WriteFileAtomic(ConBarra(carpeta) + "Error.bmp", std::string_view(bytes.constData(), bytes.size()));
         }
         GuardaErrorTxt(carpeta, textoError_);
-        QMessageBox::information(this, windowTitle(), Q(AvisoErrorGuardado()).replace("\r\n", "\n"));
+        Avisa(QMessageBox::Information, Q(AvisoErrorGuardado()).replace("\r\n", "\n"));
     } catch (const FileError& e) {
-        QMessageBox::warning(this, windowTitle(), Q(e.what()));
+        Avisa(QMessageBox::Warning, Q(e.what()));
     }
+}
+
+void ErrorDialog::Avisa(QMessageBox::Icon icono, const QString& texto)
+{
+    // A box of the window's own, so that its one button speaks the language of the pack.
+    QMessageBox aviso(icono, windowTitle(), texto, QMessageBox::NoButton, this);
+    aviso.addButton(Texto(kMsgAceptar), QMessageBox::AcceptRole);
+    aviso.exec();
 }
 
 }  // namespace vardena

@@ -4,8 +4,11 @@
 // and "Salir".
 
 #include <QDialog>
+#include <QMessageBox>
+#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "works/InfoSistema.h"
 #include "base/Ui.h"
@@ -26,9 +29,9 @@ public:
     Declaraciones* decl = nullptr;
 };
 
-// The buttons of a message box style and the answer of each.
+// The buttons of a message box style: the message that gives each its caption, and its answer.
 struct BotonRespuesta {
-    const char* texto;
+    int mensaje;
     int respuesta;
 };
 std::vector<BotonRespuesta> BotonesDeEstilo(int style);
@@ -44,6 +47,11 @@ public:
     void GuardaErr();
 
 private:
+    // A text of the window from the message table.
+    QString Texto(int mensaje, std::initializer_list<std::string> args = {}) const;
+    // Tells the outcome of "Guardar" in a box over the window.
+    void Avisa(QMessageBox::Icon icono, const QString& texto);
+
     Declaraciones* d_;
     std::string textoError_;
     QPlainTextEdit* detalle_;

@@ -10,10 +10,40 @@
 
 #include "building/DatosGen.h"
 #include "works/Declaraciones.h"
+#include "works/Subrut.h"
 #include "controls/Ventanas.h"
 
 namespace vardena {
 namespace {
+
+// Texts of the window's own layout, which the form has no control for: numbers of the message
+// table. The window is made anew at each opening, so the language in force then is the one shown.
+constexpr int kMsgSeccion = 1470;
+constexpr int kMsgPlantasCargas = 1471;
+constexpr int kMsgAltura = 1472;
+constexpr int kMsgHormigon = 1473;
+constexpr int kMsgAcero = 1474;
+constexpr int kMsgControl = 1475;
+constexpr int kMsgResistente = 1476;
+constexpr int kMsgServicio = 1477;
+constexpr int kMsgCoeficiente = 1478;
+constexpr int kMsgDensidad = 1479;
+constexpr int kMsgCatControl = 1480;
+constexpr int kMsgCatEjecucion = 1481;
+constexpr int kMsgDescripcion = 1482;
+constexpr int kMsgPeso = 1483;
+constexpr int kMsgCarga = 1484;
+constexpr int kMsgDia = 1485;
+constexpr int kMsgEscalones[] = {1486, 1487, 1488, 1489, 1491, 1492};
+constexpr int kMsgReparto = 1490;
+constexpr int kMsgPlanta = 1493;
+constexpr int kMsgColumnasCargas[] = {1494, 1495, 1496, 1497, 1498};
+// The headings that the general data's report uses too.
+constexpr int kMsgCerramiento = 886;
+constexpr int kMsgTotal = 887;
+constexpr int kMsgEscalonesCarga = 888;
+
+std::string Texto(const Form& f, int mensaje) { return Mensaje(f.decl(), mensaje); }
 
 // The building section: floors and basements as the form lays them out, in twips scaled to the
 // widget's height.
@@ -61,19 +91,12 @@ protected:
         p.setPen(QPen(QColor("#5b4a2a"), 2));
         p.drawLine(QPointF(0, y(s.rows[static_cast<size_t>(n)].top)), QPointF(width(), y(s.rows[static_cast<size_t>(n)].top)));
         p.setPen(QColor("#44546a"));
-        p.drawText(QRectF(der + 34, suelo - 18, 60, 16), Qt::AlignLeft, "Altura");
+        p.drawText(QRectF(der + 34, suelo - 18, 60, 16), Qt::AlignLeft, Q(Texto(datos_, kMsgAltura)));
     }
 
 private:
     const DatosGen& datos_;
 };
-
-// Texts for controls the form leaves without a caption.
-void PoneCaption(Form& f, const char* nombre, const char* texto, int index = -1)
-{
-    if (Control* c = f.Find(nombre, index); c && c->Caption().empty())
-        c->SetCaption(texto);
-}
 
 constexpr const char* kCargasP[] = {"TxtPProP", "TxtConcP", "TxtSobrP", "TxtSTabP", "TxtCUsoP"};
 constexpr const char* kCargasS[] = {"TxtPProS", "TxtConcS", "TxtSobrS", "TxtSTabS", "TxtCUsoS"};
@@ -83,15 +106,7 @@ constexpr const char* kCargasS[] = {"TxtPProS", "TxtConcS", "TxtSobrS", "TxtSTab
 VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : VentanaForm(std::move(form), parent)
 {
     Form& f = *form_;
-    PoneCaption(f, "ChHormigon", "Se usa en la obra");
-    PoneCaption(f, "ChAcero", "Se usa en la obra");
-    PoneCaption(f, "ChMadera", "Se usa en la obra");
-    PoneCaption(f, "ChFabrica", "Se usa en la obra");
-    PoneCaption(f, "ChTerreno", "Se usa en la obra");
-    PoneCaption(f, "ChVerTerrPlant", "Ver terreno y plantas");
-    PoneCaption(f, "ChVerCargas", "Ver cargas");
-    PoneCaption(f, "ChVerSelPilar", "Selección de pilar");
-    PoneCaption(f, "OpPilarS", "Pilar");
+    auto texto = [&f](int mensaje) { return Texto(f, mensaje); };
 
     auto* raiz = new QHBoxLayout(this);
     raiz->setContentsMargins(8, 8, 8, 8);
@@ -100,7 +115,7 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
         g->setStyleSheet("QGroupBox { font-weight: bold; color: #1d3557; } QGroupBox * { font-weight: normal; }");
         return g;
     };
-    auto fila = [this](QGridLayout* g, int r, const char* etiqueta, const char* nombre, int index = -1,
+    auto fila = [this](QGridLayout* g, int r, const std::string& etiqueta, const char* nombre, int index = -1,
                        const char* unidad = nullptr, int indiceUnidad = -1) {
         g->addWidget(Etiqueta(etiqueta), r, 0);
         QWidget* w = vista_->Widget(nombre, index);
@@ -118,18 +133,18 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
     };
 
     // The section.
-    auto* gSeccion = grupo("Sección del edificio");
+    auto* gSeccion = grupo(texto(kMsgSeccion));
     auto* vSeccion = new QVBoxLayout(gSeccion);
     seccion_ = new DibujoSeccion(datos());
     vSeccion->addWidget(seccion_, 1);
     raiz->addWidget(gSeccion, 3);
 
     // Floors and their loads.
-    auto* gNiveles = grupo("Plantas y cargas");
+    auto* gNiveles = grupo(texto(kMsgPlantasCargas));
     caja_ = new QVBoxLayout(gNiveles);
     auto* cuenta = new QGridLayout();
-    fila(cuenta, 0, "Nº plantas", "cmbGeom", 0);
-    fila(cuenta, 1, "Nº sótanos", "cmbGeom", 1);
+    fila(cuenta, 0, f.At("lbPlan").Caption(), "cmbGeom", 0);
+    fila(cuenta, 1, f.At("lbSot").Caption(), "cmbGeom", 1);
     cuenta->addWidget(vista_->Widget("ChVerTerrPlant"), 0, 2);
     cuenta->addWidget(vista_->Widget("ChVerCargas"), 1, 2);
     caja_->addLayout(cuenta);
@@ -149,16 +164,20 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
     struct Material {
         int cabecera;
         const char* check;
-        std::vector<std::tuple<const char*, const char*, int>> campos;  // label, control, unit label index
+        std::vector<std::tuple<std::string, const char*, int>> campos;  // label, control, unit label index
     };
     const Material lista[] = {
-        {5, "ChHormigon", {{"Hormigón", "CmbHorm", -1}, {"Acero", "CmbAcero", -1}, {"Control", "cmbControl", -1}}},
-        {0, "ChAcero", {{"Acero", "CmbAcP", -1}}},
-        {4, "ChMadera", {{"Resistente", "CmbResis", -1}, {"Servicio", "CmbServi", -1}}},
+        {5, "ChHormigon",
+         {{texto(kMsgHormigon), "CmbHorm", -1},
+          {texto(kMsgAcero), "CmbAcero", -1},
+          {texto(kMsgControl), "cmbControl", -1}}},
+        {0, "ChAcero", {{texto(kMsgAcero), "CmbAcP", -1}}},
+        {4, "ChMadera", {{texto(kMsgResistente), "CmbResis", -1}, {texto(kMsgServicio), "CmbServi", -1}}},
         {1, "ChFabrica",
-         {{"Res.Fábrica", "TxResFab", 1}, {"Coeficiente", "TxCoefMin", -1}, {"Densidad Kg/m3", "TxtDensFabr", -1},
-          {"Categoría control", "cmbCatControl", -1}, {"Categ. ejecución", "CmbCatEjec", -1}}},
-        {2, "ChTerreno", {{"Tens. Adm.", "TxTens", 1}}},
+         {{f.At("lbFabrica").Caption(), "TxResFab", 1}, {texto(kMsgCoeficiente), "TxCoefMin", -1},
+          {texto(kMsgDensidad), "TxtDensFabr", -1}, {texto(kMsgCatControl), "cmbCatControl", -1},
+          {texto(kMsgCatEjecucion), "CmbCatEjec", -1}}},
+        {2, "ChTerreno", {{f.At("lbTens").Caption(), "TxTens", 1}}},
     };
     for (const Material& m : lista) {
         auto* g = grupo(f.At("Label15", m.cabecera).Caption());
@@ -179,10 +198,10 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
 
     // Enclosure wall and load steps.
     auto* otros = new QVBoxLayout();
-    auto* gCerr = grupo("Cerramiento tipo");
+    auto* gCerr = grupo(texto(kMsgCerramiento));
     auto* rc = new QGridLayout(gCerr);
-    rc->addWidget(Etiqueta("Descripción"), 0, 0);
-    rc->addWidget(Etiqueta("Peso"), 0, 1);
+    rc->addWidget(Etiqueta(texto(kMsgDescripcion)), 0, 0);
+    rc->addWidget(Etiqueta(texto(kMsgPeso)), 0, 1);
     for (int i = 0; i < 6; ++i) {
         QWidget* descr = vista_->Widget("TextDescr", i);
         descr->setMinimumWidth(170);
@@ -191,24 +210,22 @@ VentanaDatosGen::VentanaDatosGen(std::unique_ptr<Form> form, QWidget* parent) : 
         v->setMaximumWidth(60);
         rc->addWidget(v, i + 1, 1);
     }
-    rc->addWidget(Etiqueta("Total"), 7, 0, Qt::AlignRight);
+    rc->addWidget(Etiqueta(texto(kMsgTotal)), 7, 0, Qt::AlignRight);
     QWidget* total = vista_->Widget("TextTotal");
     total->setMaximumWidth(60);
     rc->addWidget(total, 7, 1);
     rc->addWidget(vista_->Widget("lbST", 0), 7, 2);
     rc->addWidget(vista_->Widget("lbSI", 0), 7, 2);
     otros->addWidget(gCerr);
-    auto* gDias = grupo("Escalones de carga");
+    auto* gDias = grupo(texto(kMsgEscalonesCarga));
     auto* rd = new QGridLayout(gDias);
-    rd->addWidget(Etiqueta("Carga"), 0, 0);
-    rd->addWidget(Etiqueta("Día nº"), 0, 1);
-    const char* escalones[] = {"Peso propio", "Tabiquería y cerramientos", "Cargas permanentes", "Sobrecargas de uso",
-                               "Sobrecarga frecuente", "Sobrecarga cuasi-permanente"};
+    rd->addWidget(Etiqueta(texto(kMsgCarga)), 0, 0);
+    rd->addWidget(Etiqueta(texto(kMsgDia)), 0, 1);
     for (int i = 0; i < 6; ++i) {
         if (i == 4)
-            rd->addWidget(Etiqueta("Reparto sobrecarga de uso (%)"), 5, 0, 1, 2);
+            rd->addWidget(Etiqueta(texto(kMsgReparto)), 5, 0, 1, 2);
         const int r = i < 4 ? i + 1 : i + 2;
-        rd->addWidget(Etiqueta(escalones[i]), r, 0);
+        rd->addWidget(Etiqueta(texto(kMsgEscalones[i])), r, 0);
         QWidget* w = vista_->Widget("TextDia", i);
         w->setMaximumWidth(50);
         rd->addWidget(w, r, 1);
@@ -264,9 +281,10 @@ void VentanaDatosGen::ConstruyeNiveles()
     auto* nuevo = new QWidget();
     auto* g = new QGridLayout(nuevo);
     g->setVerticalSpacing(2);
-    const char* cabeceras[] = {"Planta", "P.Prop.", "C.Perm.", "Sobr.Uso", "Tab/Niev.", "Uso", "Altura (m.)"};
-    for (int c = 0; c < 7; ++c)
-        g->addWidget(Etiqueta(cabeceras[c]), 0, c);
+    g->addWidget(Etiqueta(Texto(datos(), kMsgPlanta)), 0, 0);
+    for (int c = 0; c < 5; ++c)
+        g->addWidget(Etiqueta(Texto(datos(), kMsgColumnasCargas[c])), 0, c + 1);
+    g->addWidget(Etiqueta(datos().At("LbAlt").Caption()), 0, 6);
     auto coloca = [&](QWidget* w, int r, int c, int ancho) {
         w->setMaximumWidth(ancho);
         g->addWidget(w, r, c);

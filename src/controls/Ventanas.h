@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/GruposVentana.h"
 #include "controls/Vista.h"
 #include "base/Form.h"
 
@@ -46,15 +47,6 @@ protected:
     bool descargada_ = false;
 };
 
-// A group of controls as the element window shows it.
-struct GrupoCampos {
-    std::string titulo;
-    std::vector<Control*> miembros;
-};
-// The data fields of an element form grouped for display: the element's identity, materials,
-// single data, lists and options, one group per control array, reinforcement, sections, and the
-// results last. Frame controls, unit labels and the designed captions and frames are left out.
-std::vector<GrupoCampos> AgrupaCampos(const Form& form);
 
 // The window of any element form.
 class VentanaElemento : public VentanaForm {

@@ -206,7 +206,9 @@ TEST(GuiError, MessageBoxStylesGiveTheirButtons)
             r.push_back(b.respuesta);
         EXPECT_EQ(r, f.respuestas) << f.estilo;
     }
+    ProgramaDePrueba p("Local Arce");
     UiQt ui;
+    ui.decl = &p.app.decl;
     ContestaDialogo([](QWidget* box) {
         for (auto* b : box->findChildren<QPushButton*>())
             if (b->text() == "No")

@@ -1,0 +1,27 @@
+#pragma once
+// How an element window groups its fields: a layout model computed from the form, which the
+// desktop program draws. Group titles come from the language pack.
+
+#include <string>
+#include <vector>
+
+#include "base/Form.h"
+
+namespace vardena {
+
+// A group of controls as the element window shows it.
+struct GrupoCampos {
+    std::string titulo;
+    std::vector<Control*> miembros;
+};
+// The data fields of an element form grouped for display: the element's identity, materials,
+// single data, lists and options, one group per control array, reinforcement, sections, and the
+// results last. Frame controls, unit labels and the designed captions and frames are left out.
+std::vector<GrupoCampos> AgrupaCampos(const Form& form);
+// The label of a field in its group; members of an array that share a caption are told apart
+// by their index.
+std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g);
+// Rows a group takes on screen, to balance the columns.
+int AltoDeGrupo(const GrupoCampos& g);
+
+}  // namespace vardena
