@@ -7,13 +7,14 @@ namespace vardena {
 namespace {
 
 // The forms with a free-text result share their materials, result and title; each adds its own
-// few controls behind them.
-TablaForm TablaLibre(std::string_view nombre, std::vector<CampoDef> propios)
+// few controls behind them. They read every record twice and ask before replacing a result.
+TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
+                     PasoComprobacion paso, std::vector<CampoDef> propios)
 {
     TablaForm t{nombre, "", {
         {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
         {"TxtRes1", {}, kTexto}, {"txtTitulo", {}, kTexto},
-    }};
+    }, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada};
     t.campos.insert(t.campos.end(), propios.begin(), propios.end());
     return t;
 }
@@ -46,7 +47,9 @@ TablaForm TablaDatosProy()
         Textos("Text4", 6), Textos("Text4a", 4), Textos("Text4b", 4),
         {"Text3126", {}, kTexto}, {"Text3127", {}, kTexto}, {"Text313", {}, kTexto}, {"Text314a", {}, kTexto},
         {"Text314b", {}, kTexto}, {"txtTitulo", {}, kTexto},
-    }};
+    },
+     // The questionnaire is saved with no check call, as the one record "Anejos".
+     {false, true, PasoComprobacion::Ninguno, false}, "Anexos Proyecto", "Anejos", kNada, kNada};
     return t;
 }
 
@@ -70,16 +73,20 @@ const std::vector<TablaForm>& TablasDatosYLibres()
             {"TxtLong", {}, kTexto, {"12"}}, {"cmbZonEol", {}, kLista}, {"cmbEntorno", {}, kLista}, {"txtAlt", {}, kTexto, {"60"}},
             {"txtAnch", {}, kTexto, {"12"}}, {"cmbNieve", {}, kLista}, {"txtNieve", {}, kTexto}, {"ChNieve", {}, kCasilla},
             {"ChViento", {}, kCasilla}, {"ChSismo", {}, kCasilla}, {"txtTitulo", {}, kTexto},
-        }},
+        },
+         // The actions form keeps one record, "Acciones", and saves with no check call.
+         // The actions are one record, "Acciones", which also names the window.
+         {false, true, PasoComprobacion::Ninguno, false, "Acciones"},
+         "Acciones", "Acciones", kNada, kNada},
         TablaDatosProy(),
-        TablaLibre("frmEnBlanco", {{"TxCercos", {}, kTexto}, {"txCuelgue", {}, kTexto}}),
-        TablaLibre("frmLosCime", {{"UCArmZap", {}, kZapatas}}),
-        TablaLibre("frmMArco", {}),
-        TablaLibre("frmMArma", {}),
-        TablaLibre("frmSolArma", {{"UCArmZap", {}, kZapatas}}),
-        TablaLibre("frmUniAto", {}),
-        TablaLibre("frmUniSol", {}),
-        TablaLibre("frmVigFlot", {{"UCArmZap", {}, kZapatas}}),
+        TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno, {{"TxCercos", {}, kTexto}, {"txCuelgue", {}, kTexto}}),
+        TablaLibre("frmLosCime", "Soleras Armadas", "Losa Cimentación 01", PasoComprobacion::Bandera, {{"UCArmZap", {}, kZapatas}}),
+        TablaLibre("frmMArco", "Arcos Fábrica", "Arco Fábrica 01", PasoComprobacion::Bandera, {}),
+        TablaLibre("frmMArma", "Fábrica Armada", "Fábrica Armada 01", PasoComprobacion::Bandera, {}),
+        TablaLibre("frmSolArma", "Soleras Armadas", "Solera Armada 01", PasoComprobacion::Bandera, {{"UCArmZap", {}, kZapatas}}),
+        TablaLibre("frmUniAto", "Uniones Atornilladas", "Unión Atornillada 01", PasoComprobacion::Bandera, {}),
+        TablaLibre("frmUniSol", "Uniones Soldadas", "Unión Soldada 01", PasoComprobacion::Bandera, {}),
+        TablaLibre("frmVigFlot", "Soleras Armadas", "Viga Flotante 01", PasoComprobacion::Bandera, {{"UCArmZap", {}, kZapatas}}),
     };
     return tablas;
 }

@@ -4,6 +4,19 @@
 #include "frame/Campos.h"
 
 namespace vardena {
+namespace {
+
+// Own defaults and minimums of single forms of this family.
+constexpr Valor kMinimosUnidireccional[] = {{"txtForj", {{0, 4}}, 0}, {"TxCota", {{0, 3}}, 0}, {"TxLv", {{1, 1}, {2, 2}, {4, 4}, {5, 5}}, 0}};
+constexpr Valor kRecubYPosicionInterior[] = {{"CmbRecub", {}, 3}, {"OpPosPil", {{2, 2}}, 1}};
+constexpr Valor kRecubYPanelCentral[] = {{"CmbRecub", {}, 3}, {"OpPosPil", {{0, 0}}, 1}};
+constexpr Valor kMinimosForjRet[] = {{"txtForj", {{0, 3}}, 0}, {"txtForj", {{5, 8}, {10, 10}, {11, 11}}, 0.5}, {"txtForj", {{9, 9}, {12, 12}, {13, 13}}, 0.1}};
+constexpr Valor kMinimosForMaci[] = {{"TxtCanto", {}, 0}, {"txtForj", {{5, 8}, {10, 10}, {11, 11}}, 0.5}, {"txtForj", {{9, 9}, {12, 12}, {13, 13}}, 0.1}};
+constexpr Valor kMinimosAbaco[] = {{"LePil", {{0, 0}, {9, 9}, {7, 7}}, 0.5}, {"PilX", {}, 0.2}, {"PilY", {}, 0.2}, {"AbacoX", {}, 0.4}, {"AbacoY", {}, 0.4}};
+constexpr Valor kMinimosMensCorta[] = {{"TxCota", {{0, 6}}, 0}};
+constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {{0, 4}}, 0}, {"TxCotaH2", {{0, 4}}, 0}, {"TxCotaRampa", {{0, 0}}, 0}};
+
+}  // namespace
 
 const std::vector<TablaForm>& TablasHormigon()
 {
@@ -22,7 +35,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxtPil", {1, 0}, kTexto, {"30"}}, {"TxLv", {5, 4, 2, 1}, kTexto}, {"TextDviga", {1, 0}, kTexto, {"40", "30"}},
             {"TxCota", {1}, kTexto, {" 5.50"}}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"UCArCer", {0}, kNumDiamSep}, {"UCArVig", {8}, kNumDiam},
             {"TxCota", {5, 6}, kTexto, {"5"}}, {"ChTrans", {}, kCasilla}, {"UCArVig", {10}, kNumDiam}, {"TxtPil", {5, 4}, kTexto, {"30"}},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Vigas de Hormigón Armado", "Viga Hormigón. P 01-02", kRecubEstructura, kMinimosVano},
         {"frmVigRegHorm", "HK", {
             {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAmbGral", {}, kLista},
@@ -42,7 +57,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxLv", {5, 4, 2, 1}, kTexto}, {"TextDviga", {1, 0}, kTexto, {"40", "30"}}, {"TxCota", {1}, kTexto, {" 5.50"}},
             {"TxtQ", {1}, kTexto, {"2.1"}}, {"TxtPil", {5, 4, 7, 6}, kTexto, {"30"}}, {"UCArVig", {9, 10}, kNumDiam},
             {"TxCota", {5, 6}, kTexto, {"1", "5"}}, {"ChTrans", {}, kCasilla},
-        }},
+        },
+         {false, true, PasoComprobacion::OchoYSiete, false},
+         "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano},
         {"frmPilHorm", "HP", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -52,7 +69,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"UCArmPilar", {1, 3, 2, 4}, kNumDiam}, {"ChPil", {4, 3}, kCasilla}, {"txtTramo", {4, 3}, kTexto, {"30"}},
             {"UCCercos", {}, kNumDiamSep}, {"txtTramo", {0}, kTexto, {"30"}}, {"UCArmPilar", {0}, kNumDiam}, {"UCNumDiamSep1", {}, kNumDiamSep},
             {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla},
-        }},
+        },
+         {false, false, PasoComprobacion::SinArgumentos, false},
+         "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar},
         {"frmForjUnid", "HU", {
             {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
             {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -74,7 +93,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxtQ", {8, 7, 1, 2}, kTexto, {"500"}}, {"UCArVig", {5, 2}, kNumDiam}, {"TxLv", {1, 2, 4, 5}, kTexto},
             {"ChArV", {1, 2, 4}, kCasilla}, {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"5.50"}}, {"UCArVig", {1, 4}, kNumDiam},
             {"TxCota", {2}, kTexto, {"1.10"}}, {"TxtPil", {2, 3}, kTexto, {"30"}},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Forjado Unidireccional", "Forjado Unidir. 01", kRecubEstructura, kMinimosUnidireccional},
         {"frmForjSitu", "HS", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista},
@@ -88,7 +109,10 @@ const std::vector<TablaForm>& TablasHormigon()
             {"UCArCer", {1, 0}, kNumDiamSep}, {"UCArVig", {7, 0}, kNumDiam}, {"UCMall", {0, 1}, kMallazo},
             {"txtForj", {3, 2, 0, 1, 4}, kTexto, {"5", "25", "10", "70", "30"}}, {"txtTitulo", {}, kTexto}, {"OpTramo", {5}, kOpcion},
             {"TxTrAd", {1, 0}, kTexto, {"4.8"}}, {"OpTramo", {0, 1, 2, 3, 4}, kOpcion},
-        }},
+        },
+         // Reasoned title, after the one-way slab's.
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Forjado in situ", "Forjado in situ 01", kRecubEstructura, kMinimosUnidireccional},
         {"frmForjRet", "HR", {
             {"txtMf", {9, 10, 11, 6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto}, {"UCMall", {0}, kMallazo}, {"cmbTipoFor", {}, kLista},
             {"txtForj", {0, 1, 2, 3, 4, 10, 11, 12, 13, 5, 6, 7, 8, 9}, kTexto, {"10", "70", "25", "5", "30", "6.00", "6.00", "1.20"}},
@@ -103,7 +127,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxLv", {14, 12}, kTexto}, {"UCArVig", {14}, kNumDiam}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"Combo1", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet},
         {"frmForMaci", "HQ", {
             {"txtMf", {11, 10, 9, 8, 7, 6, 5, 4, 3, 0, 1, 2}, kTexto}, {"UCMall", {0}, kMallazo}, {"TxtCanto", {}, kTexto, {"20"}},
             {"txtTitulo", {}, kTexto},
@@ -117,7 +143,11 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxLv", {14, 12}, kTexto}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"Combo1", {}, kLista}, {"TxtRes3", {}, kTexto}, {"TxtRes2", {}, kTexto},
             {"TxtRes1", {}, kTexto},
-        }},
+        },
+         // The solid slab compares its spans as the waffle slab does, and its depth in place of the
+         // waffle's depths.
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Forjados Macizos", "Forjado Macizo 01", kRecubYPanelCentral, kMinimosForMaci},
         {"frmAbaco", "HV", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -130,7 +160,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"ChX", {1, 0}, kCasilla}, {"AbacoX", {}, kTexto, {"2.10"}}, {"AbacoY", {}, kTexto, {"2.10"}}, {"TxtQ", {0}, kTexto, {"800"}},
             {"LePil", {4, 5, 6, 7, 8, 9, 10, 11, 0, 1, 2, 3}, kTexto, {"7.00", "7.00", "0.50", "0.50", "7.00", "0.50", "7.00", "7.00"}},
             {"txtTitulo", {}, kTexto},
-        }},
+        },
+         {false, false, PasoComprobacion::SinArgumentos, false},
+         "Abacos de Hormigón Armado", "Abaco 01", kRecubYPanelCentral, kMinimosAbaco},
         {"frmMensCorta", "HW", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {3, 2, 0, 1}, kTexto}, {"UCArmPrinc", {}, kNumDiam}, {"UCArmCercos", {}, kNumDiam}, {"UCArmColgar", {}, kNumDiam},
@@ -138,7 +170,10 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxCota", {6, 5, 0, 3, 4, 2, 1}, kTexto, {"500", "50", "90", "15", "40", "60", "60"}},
             {"TxtQ", {2, 1, 0, 3}, kTexto, {"0", "0", "40", "0"}}, {"txtMom", {}, kTexto}, {"txtCort", {}, kTexto},
             {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto}, {"TxArmado", {}, kTexto}, {"txtTitulo", {}, kTexto},
-        }},
+        },
+         // Reasoned minimums: the corbel's sizes must be positive.
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Ménsulas Cortas", "Ménsula 01", kRecubEstructura, kMinimosMensCorta},
         {"frmVigPared", "HY", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"txtDat2", {}, kTexto, {"500"}}, {"TxtRes3", {}, kTexto}, {"TxtRes1", {}, kTexto},
@@ -149,7 +184,10 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxCota", {2}, kTexto, {" 2.00"}}, {"TxtPil", {1, 0}, kTexto, {"30"}}, {"TextDviga", {1, 0}, kTexto, {"200", "30"}},
             {"TxCota", {1}, kTexto, {"3.50"}}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"UCArVigCen", {}, kNumDiam}, {"UCArVigIzq", {}, kNumDiam},
             {"UCArVigder", {}, kNumDiam},
-        }},
+        },
+         // The deep beam also compares the column depths with 200, an upper limit, not listed here.
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Vigas de Hormigón de Gran Canto", "Viga Pared. Pilar 01-02", kRecubEstructura, kMinimosVano},
         {"frmEscHorm", "HZ", {
             {"TxtRes1", {0, 1}, kTexto}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbRecub", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"OptLosa", {2, 1, 3, 0}, kOpcion},
@@ -165,7 +203,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"UCNumDiamDesc", {0, 1, 2, 3, 4, 5}, kNumDiam}, {"OptDApoIzq", {0, 1, 2}, kOpcion}, {"OptDApoDer", {2, 1, 0}, kOpcion},
             {"UCNumDiamH1", {4, 0}, kNumDiam}, {"TxCotaH1", {3, 2, 1, 0}, kTexto, {"2.00", "1.10", "3.10", "1.10"}},
             {"UCNumDiamH1", {1, 2, 3, 5}, kNumDiam}, {"OptH1izq", {2, 1, 0}, kOpcion}, {"OptH1der", {0, 1, 2}, kOpcion},
-        }},
+        },
+         {true, true, PasoComprobacion::Bandera, false},
+         "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubEstructura, kMinimosEscHorm},
     };
     return tablas;
 }

@@ -6,6 +6,7 @@
 // the loading guard, what kind of check call it makes, whether it asks before replacing).
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,10 +37,59 @@ struct CampoDef {
     std::vector<std::string_view> textos = {};
 };
 
+// How CmdCalcular_Click reaches the check step of the element.
+enum class PasoComprobacion {
+    Ninguno,        // no check call: the save follows
+    SinArgumentos,  // one call with no arguments
+    Bandera,        // one call with one flag argument, set to true
+    OchoYSiete,     // two calls, of eight and of seven arguments
+};
+
+// The life cycle of a form.
+struct CicloForm {
+    bool leeDosVeces;   // List1_Click runs LeeForm twice
+    bool guarda;        // List1_Click sets Cargando around the reading
+    PasoComprobacion paso;
+    bool pregunta;      // CmdCalcular_Click asks before replacing an existing results file
+    // A form with one fixed record (frmAccio): its load reads this title and it has no List1
+    // walk. Empty for the element forms.
+    std::string_view tituloFijo = {};
+};
+
+// A control, or runs of members of a control array, with a value: an own default (a list row,
+// an option button set by 1, a check box value) or a minimum that the check compares.
+struct Tramo {
+    int desde = 0;
+    int hasta = -1;  // an unused run is empty
+};
+struct Valor {
+    std::string_view control;
+    Tramo tramos[4];  // runs of member indices; none for a plain control
+    double valor;
+};
+inline constexpr std::span<const Valor> kNada{};
+
+// The cover of a new element: 30 mm, the cover that exposure class I (row 0 of the exposure
+// list, the default) asks for. Elements in the ground start at 50 mm (row 7), the cover of the
+// most aggressive classes, since they stand against the soil.
+// Minimums shared by families: the span and stretches of the beams; the stretches and clear
+// heights of the columns.
+inline constexpr Valor kRecubEstructura[] = {{"CmbRecub", {}, 3}};
+inline constexpr Valor kMinimosVano[] = {{"TxCota", {{1, 3}}, 0}};
+inline constexpr Valor kMinimosPilar[] = {{"txtTramo", {{0, 0}, {3, 3}, {4, 4}}, 0}, {"LePil", {{0, 11}}, 0}};
+
+// The definition of a form: its name and catalogue code, its stored fields in the order of its
+// record, its life cycle, its window's caption and the design text of its title, its own
+// defaults and the minimums its check compares.
 struct TablaForm {
     std::string_view nombre;  // "frmZapCorr"
     std::string_view codigo;  // catalogue code; "" for forms without a row
     std::vector<CampoDef> campos;
+    CicloForm ciclo;
+    std::string_view caption;
+    std::string_view titulo;
+    std::span<const Valor> propios;
+    std::span<const Valor> minimos;
 };
 
 
@@ -60,29 +110,8 @@ const std::vector<TablaForm>& TablasCampos();
 // The table of a form by name (case as written); nullptr when there is none.
 const TablaForm* TablaCampos(std::string_view form);
 
-// How CmdCalcular_Click reaches the check step of the element.
-enum class PasoComprobacion {
-    Ninguno,        // no check call: the save follows
-    SinArgumentos,  // one call with no arguments
-    Bandera,        // one call with one flag argument, set to true
-    OchoYSiete,     // two calls, of eight and of seven arguments
-};
-
-// The life-cycle row of a form.
-struct CicloForm {
-    std::string_view nombre;
-    bool leeDosVeces;   // List1_Click runs LeeForm twice
-    bool guarda;        // List1_Click sets Cargando around the reading
-    PasoComprobacion paso;
-    bool pregunta;      // CmdCalcular_Click asks before replacing an existing results file
-    // A form with one fixed record (frmAccio): its load reads this title and it has no List1
-    // walk. Empty for the element forms.
-    std::string_view tituloFijo = {};
-};
-
-// The row of a form; forms without one get the row of a plain element form (reads once,
-// guarded, a check with no arguments, no question).
+// The life cycle of a form; a form without a definition gets that of a plain element form
+// (reads once, guarded, a check with no arguments, no question).
 const CicloForm& CicloDe(std::string_view form);
-const std::vector<CicloForm>& Ciclos();
 
 }  // namespace vardena

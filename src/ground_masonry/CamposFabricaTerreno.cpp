@@ -4,6 +4,22 @@
 #include "frame/Campos.h"
 
 namespace vardena {
+namespace {
+
+// Own defaults and minimums of single forms of this family.
+constexpr Valor kRecubTerreno[] = {{"CmbRecub", {}, 7}};
+constexpr Valor kMinimosMuro[] = {{"TxCotaMuro", {{0, 0}}, 10}, {"TxCotaAncho", {}, 40}, {"TxCotaAlto", {}, 30}};
+constexpr Valor kMinimosMuros[] = {{"TxtCota", {{0, 22}}, 0.5}, {"TxtCota", {{1, 1}, {3, 3}}, 0.2}, {"TxtCota", {{4, 9}, {11, 13}, {15, 15}, {16, 16}}, 10}, {"TxtCota", {{0, 0}, {2, 2}}, 10}};
+constexpr Valor kMinimosMDint[] = {{"TxtCota", {{0, 3}}, 0}, {"txtEspesor", {}, 0}};
+constexpr Valor kMinimosMCerr[] = {{"TxtCota", {{1, 1}, {2, 2}}, 0}};
+constexpr Valor kRecubTerrenoYPosicionInterior[] = {{"CmbRecub", {}, 7}, {"OpPosPil", {{2, 2}}, 1}};
+constexpr Valor kMinimosZap[] = {{"TxDimZap", {{0, 7}}, 40}, {"TxDimZap", {{8, 11}}, 30}, {"TxPil", {{0, 7}}, 10}};
+constexpr Valor kMinimosZapComb[] = {{"TxCota", {{0, 9}}, 10}};
+constexpr Valor kMinimosZapCorr[] = {{"TxCotaMuro", {}, 10}, {"TxCotaAncho", {}, 40}, {"TxCotaAlto", {}, 30}};
+constexpr Valor kMinimosPilotes[] = {{"TxtLongPil", {}, 0}, {"TxtLPilote", {}, 0}, {"TxtH", {}, 30}};
+constexpr Valor kMinimosTalud[] = {{"TxCotaTalud", {{0, 0}, {1, 1}}, 10}};
+
+}  // namespace
 
 const std::vector<TablaForm>& TablasFabricaTerreno()
 {
@@ -16,7 +32,10 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"TxtCota", {21}, kTexto, {"2.80"}}, {"OpTramo", {2}, kOpcion}, {"TxtCota", {17}, kTexto, {"4.90"}},
             {"OpTramo", {0, 3, 1}, kOpcion}, {"TxtCota", {20, 19, 18}, kTexto, {"2.80", "5.10", "4.80"}}, {"txtTitulo", {}, kTexto},
             {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4, 12, 11, 10, 9}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25"}},
-        }},
+        },
+         // Reasoned titles for the masonry forms.
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Muros de Fábrica", "Muro Fábrica 01", kNada, kMinimosMuros},
         {"frmMCerr", "MH", {
             {"TxtQ", {3}, kTexto, {"0.05"}}, {"txtTitulo", {}, kTexto}, {"OptCab", {2, 1, 0}, kOpcion}, {"OptBase", {0, 1}, kOpcion},
             {"OptIzq", {1, 0}, kOpcion}, {"OptDer", {0, 1}, kOpcion}, {"OptCalc", {1, 0}, kOpcion},
@@ -24,7 +43,9 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"TxtQ", {1}, kTexto, {"2"}}, {"CmbPlanta", {}, kLista}, {"TxtQ", {0}, kTexto, {"1"}}, {"TxCoefMin", {}, kTexto, {"1.7"}},
             {"TxCatEjec", {}, kTexto, {"A"}}, {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"CmbFMort", {}, kLista},
             {"CmbFMat", {}, kLista},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Cerramientos sometidos a acciones horizontales", "Cerramiento 01", kNada, kMinimosMCerr},
         {"frmMDint", "MI", {
             {"TxtRes1", {2, 1, 0}, kTexto}, {"CmbDintel", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista},
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -37,7 +58,9 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"TxtCota", {3, 0, 1, 2}, kTexto, {"2.4", "4.90", "0.20", "1.20"}}, {"txtEspesor", {}, kTexto, {"24"}},
             {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"TxtDensidad", {}, kTexto, {"1900"}},
             {"TxtQ", {3, 2}, kTexto, {"1.0", "1.2"}},
-        }},
+        },
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Dintel Fábrica", "Dintel 01", kRecubEstructura, kMinimosMDint},
         {"frmSuelo", "CS", {
             {"txtV", {}, kTexto, {"250"}}, {"txtHy", {}, kTexto, {"0"}}, {"txtIg", {}, kTexto, {"1.00"}},
             {"txtIq", {}, kTexto, {"1.00"}}, {"txtIc", {}, kTexto, {"1.00"}}, {"txtHx", {}, kTexto, {"0"}},
@@ -52,7 +75,9 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"txtNq", {}, kTexto}, {"txtNc", {}, kTexto}, {"txtTa", {}, kTexto, {"30"}}, {"txtTaServ", {}, kTexto, {"30"}},
             {"Text5", {}, kTexto, {"30"}}, {"txtTitulo", {}, kTexto}, {"txtTadm", {}, kTexto}, {"txtServ", {}, kTexto},
             {"Text4", {}, kTexto, {"6"}}, {"CmbTerreno", {}, kLista}, {"Text3", {}, kTexto, {"1800"}}, {"Text2", {}, kTexto, {"30"}},
-        }},
+        },
+         {false, true, PasoComprobacion::Ninguno, false},
+         "Definición del terreno de cimentación", "Terreno 01", kNada, kNada},
         {"frmZap", "ZA", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {1, 5, 4, 3, 2, 0}, kTexto}, {"txtTitulo", {}, kTexto}, {"chkRiostra", {}, kCasilla}, {"Check1", {}, kCasilla},
@@ -64,19 +89,26 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"TxPil", {5, 4, 3, 2, 1, 0}, kTexto, {"30"}}, {"OpPosPil", {2, 1, 0}, kOpcion}, {"UCViga", {2, 3}, kNumDiam},
             {"UCCercosViga", {1}, kNumDiamSep}, {"TxCota", {13}, kTexto, {"50"}}, {"UCViga", {0, 1}, kNumDiam}, {"UCCercosViga", {0}, kNumDiamSep},
             {"TxCota", {12, 11, 7, 6, 5, 4, 3, 2, 1, 0, 10, 9, 8}, kTexto, {"40", "40", "140", "40", "40", "600", "30", "50"}},
-        }},
+        },
+         // Plan sizes at least 40 cm, depths 30 cm and column sides 10 cm, as the strip footing.
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Zapatas Aisladas", "Zapata Aislada 01", kRecubTerrenoYPosicionInterior, kMinimosZap},
         {"frmZapComb", "ZB", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {2, 0, 1}, kTexto}, {"Check1", {}, kCasilla}, {"TxtQ", {4}, kTexto, {"2.5"}}, {"UCArmZap", {2, 3, 0, 1}, kZapatas},
             {"txtTitulo", {}, kTexto}, {"TxCota", {9}, kTexto, {"110"}}, {"TxtQ", {2, 3, 0, 1}, kTexto, {"0", "20", "20", "0"}},
             {"TxCota", {8, 7, 6, 5, 4, 3, 2, 1, 0}, kTexto, {"170", "40", "40", "30", "40", "30", "30", "30"}},
-        }},
+        },
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Zapatas Combinadas", "Zapata Combinada 01-02", kRecubTerreno, kMinimosZapComb},
         {"frmZapCorr", "ZC", {
             {"Check1", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}}, {"UCArmZap", {0, 1}, kZapatas}, {"OpTipoMuro", {1, 0}, kOpcion},
             {"TxtQ", {0, 1}, kTexto, {"40", "0"}}, {"TxCotaMuro", {}, kTexto, {"30"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
             {"TxCotaAlto", {}, kTexto, {"50"}}, {"txtTitulo", {}, kTexto}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"TxtRes1", {1, 0}, kTexto},
-        }},
+        },
+         {true, true, PasoComprobacion::Bandera, false},
+         "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr},
         {"frmPilotes", "ZI", {
             {"txtQadm", {}, kTexto}, {"CmbApoyo", {}, kLista}, {"ChNF", {}, kCasilla}, {"CmbEstratos", {}, kLista},
             {"TxtLongPil", {}, kTexto, {"12"}}, {"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}},
@@ -97,7 +129,9 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"TxCota", {12, 11}, kTexto, {"40"}}, {"TxtLong", {0, 1, 2, 3}, kTexto, {"4"}}, {"UCViga", {2, 3}, kNumDiam},
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"CmbNumPil", {}, kLista}, {"TxtRes1", {4, 0, 1}, kTexto},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Pilotes", "Pilotes 01", kRecubTerreno, kMinimosPilotes},
         {"frmMuroH", "ZM", {
             {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
             {"Text1", {}, kTexto, {"30"}}, {"OptDelta", {2, 1, 0}, kOpcion}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
@@ -109,7 +143,9 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"UCArmMuro", {4, 6, 8, 10, 12, 14}, kZapatas}, {"TxVuelo", {1}, kTexto, {"60"}}, {"CmbSot", {}, kLista},
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {0, 1, 2}, kTexto},
-        }},
+        },
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro},
         {"frmMuroCont", "ZO", {
             {"cmbTipo", {}, kLista}, {"ChkMortero", {}, kCasilla}, {"TxtDensFabr", {}, kTexto, {"2600"}},
             {"TxCoefAcc", {}, kTexto, {"1.70"}}, {"TxtQ", {5}, kTexto, {"90"}}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
@@ -125,7 +161,9 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"UCArmMuro", {1}, kZapatas}, {"UCArmZap", {0}, kZapatas},
             {"TxCotaMuro", {10, 9, 8, 7, 6}, kTexto, {"20", "60", "110", "210", "40"}}, {"TxtQ", {4}, kTexto, {"1"}},
             {"TxCotaMuro", {5, 4}, kTexto, {"30"}},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Muros de Contención", "Muro Contención 01", kRecubTerreno, kMinimosMuro},
         {"frmMuroAnclado", "ZR", {
             {"TxtQ", {4}, kTexto, {"40"}}, {"txtAng", {0}, kTexto, {"25"}}, {"TxtSep", {0, 1}, kTexto, {"300"}},
             {"txtAng", {1}, kTexto, {"25"}}, {"TxtQ", {5}, kTexto, {"40"}}, {"TxtSep", {2}, kTexto, {"300"}},
@@ -140,13 +178,18 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
             {"UCArmMuro", {4, 6, 8, 10, 12, 14}, kZapatas}, {"TxCotaAncho", {}, kTexto, {"90"}}, {"TxVuelo", {}, kTexto, {"60"}},
             {"CmbSot", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {3, 0, 1, 2}, kTexto},
-        }},
+        },
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Muros Anclados", "Muro Anclado 01", kRecubTerreno, kMinimosMuro},
         {"frmTalud", "ZT", {
             {"TxtQ", {1}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1800"}},
             {"CmbTalud", {}, kLista}, {"TxtRes1", {0}, kTexto}, {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto},
             {"txtTitulo", {}, kTexto}, {"optDrenaje", {0, 1}, kOpcion}, {"TxCotaTalud", {2}, kTexto, {"45"}}, {"chkEstrato", {}, kCasilla},
             {"TxCotaTalud", {0, 1}, kTexto, {"220", "120"}}, {"TxtQ", {0}, kTexto, {".5"}},
-        }},
+        },
+         // The slope also compares its angle with 90, an upper limit.
+         {true, true, PasoComprobacion::SinArgumentos, false},
+         "Taludes", "Talud 01", kNada, kMinimosTalud},
     };
     return tablas;
 }

@@ -4,6 +4,15 @@
 #include "frame/Campos.h"
 
 namespace vardena {
+namespace {
+
+// Own defaults and minimums of single forms of this family.
+constexpr Valor kPosicionInterior[] = {{"OpPosPil", {{2, 2}}, 1}};
+constexpr Valor kMinimosPilMet[] = {{"LePil", {{0, 11}}, 0}};
+constexpr Valor kMinimosForjAcer[] = {{"txtForj", {{1, 4}}, 0}, {"TxtQ", {{0, 4}}, 0}};
+constexpr Valor kMinimosForMade[] = {{"txtForj", {{0, 4}}, 0}, {"TxtQ", {{0, 4}}, 0}};
+
+}  // namespace
 
 const std::vector<TablaForm>& TablasAceroMadera()
 {
@@ -16,7 +25,10 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TxtQ", {5, 6}, kTexto, {"40"}}, {"TxCota", {0, 4}, kTexto, {"1.10"}}, {"txtTitulo", {}, kTexto}, {"cmbPart", {}, kLista},
             {"CmbCaso", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbPlanta", {}, kLista}, {"TxtRes4", {}, kTexto}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto},
-        }},
+        },
+         // Reasoned caption and title for the steel beam, after the concrete beam's.
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano},
         {"frmPilMet", "LP", {
             {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
             {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -26,7 +38,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"LePil", {7, 6, 5, 4, 3, 2, 1, 0, 11, 10, 9, 8}, kTexto, {"1.10", "1.10", "4.50", "5.00", "5.00", "5.00", "4.50", "4.50"}},
             {"UCViga", {2}, kPerfil}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes2", {}, kTexto},
             {"TxtRes1", {}, kTexto},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet},
         {"frmBasMet", "LS", {
             {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
             {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
@@ -34,7 +48,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TxNumTorY", {}, kTexto, {"2"}}, {"TxNumTorX", {}, kTexto, {"2"}}, {"ChY", {}, kCasilla}, {"ChX", {}, kCasilla},
             {"TxCotaCartY", {1, 0}, kTexto, {"15", "10"}}, {"UCPerfil1", {}, kPerfil}, {"TxCota", {3}, kTexto, {"25"}},
             {"TxCotaCartX", {1, 0}, kTexto, {"15", "10"}}, {"TxCota", {1, 0}, kTexto, {"50", "60"}}, {"txtTitulo", {}, kTexto},
-        }},
+        },
+         {true, true, PasoComprobacion::Ninguno, true},
+         "Bases metálicas", "Base pilar 01", kNada, kNada},
         {"frmForjAcer", "LQ", {
             {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
@@ -43,7 +59,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"cmbClase", {}, kLista}, {"TxCota", {3, 2}, kTexto, {"1.10"}}, {"ChVigDer", {}, kCasilla}, {"ChVigIzq", {}, kCasilla},
             {"TxtQ", {4, 3, 2, 1}, kTexto, {"0.2", "0.2", "500", "500"}}, {"TxCota", {0}, kTexto, {"2.00"}},
             {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}}, {"UCPerfil1", {}, kPerfil},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer},
         {"frmEscMet", "LZ", {
             {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
             {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
@@ -54,7 +72,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"OptH1der", {1, 0}, kOpcion}, {"TxCotaRampa", {0, 1}, kTexto, {"6.25", "1.00"}}, {"OptRampaApoIzq", {1, 0}, kOpcion},
             {"OptRampaApoDer", {0, 1}, kOpcion}, {"TxCotaDesc", {0, 1, 2, 3, 4}, kTexto, {"2.25", "1.10", "2.25", "1.40", "1.40"}},
             {"OptDApoIzq", {2, 0}, kOpcion}, {"OptDApoDer", {0, 2}, kOpcion},
-        }},
+        },
+         {true, true, PasoComprobacion::Ninguno, true},
+         "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada},
         {"frmVigMade", "MB", {
             {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -64,7 +84,10 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TxCota", {3}, kTexto, {" 2.00"}}, {"TxtQ", {2}, kTexto, {"1.2"}}, {"TxCota", {2}, kTexto, {" 2.00"}},
             {"ChPilDer", {}, kCasilla}, {"ChPilIzq", {}, kCasilla}, {"ChVigIzq", {}, kCasilla}, {"TextDviga", {1, 0}, kTexto, {"50", "30"}},
             {"TxCota", {1}, kTexto, {" 5.50"}}, {"TxtQ", {1}, kTexto, {"2.1"}},
-        }},
+        },
+         // Reasoned titles for the timber forms, after the concrete and steel ones.
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano},
         {"frmPilMade", "MC", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -75,7 +98,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"cmbesviada", {}, kLista}, {"LePil", {12}, kTexto, {"3.10"}}, {"ChRotI", {}, kCasilla}, {"ChRotS", {}, kCasilla},
             {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla}, {"OpPosPil", {2, 1, 0}, kOpcion},
             {"txtTitulo", {}, kTexto},
-        }},
+        },
+         {false, false, PasoComprobacion::SinArgumentos, false},
+         "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar},
         {"frmForMade", "MD", {
             {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
@@ -86,11 +111,15 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TextDviga", {0, 1}, kTexto, {"10", "18"}}, {"TxtPil", {1, 0}, kTexto, {"30"}}, {"TxtQ", {2, 1}, kTexto, {"500"}},
             {"TxCota", {0}, kTexto, {"2.00"}}, {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}},
             {"txtEF", {}, kTexto, {"60"}}, {"CmbUso", {}, kLista}, {"txtResF1", {}, kTexto}, {"txtResF2", {}, kTexto},
-        }},
+        },
+         {false, true, PasoComprobacion::SinArgumentos, false},
+         "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade},
         {"frmEscMade", "ME", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
-        }},
+        },
+         {true, true, PasoComprobacion::Bandera, true},
+         "Escalera de Madera", "Escalera Madera 01", kNada, kNada},
     };
     return tablas;
 }
