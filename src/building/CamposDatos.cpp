@@ -9,12 +9,12 @@ namespace {
 // The forms with a free-text result share their materials, result and title; each adds its own
 // few controls behind them. They read every record twice and ask before replacing a result.
 TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
-                     PasoComprobacion paso, std::vector<CampoDef> propios)
+                     PasoComprobacion paso, std::vector<CampoDef> propios, Listas listas = ListasHormigon())
 {
     TablaForm t{nombre, "", {
         {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
         {"TxtRes1", {}, kTexto}, {"txtTitulo", {}, kTexto},
-    }, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada};
+    }, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada, std::move(listas)};
     t.campos.insert(t.campos.end(), propios.begin(), propios.end());
     return t;
 }
@@ -77,9 +77,13 @@ const std::vector<TablaForm>& TablasDatosYLibres()
          // The actions form keeps one record, "Acciones", and saves with no check call.
          // The actions are one record, "Acciones", which also names the window.
          {false, true, PasoComprobacion::Ninguno, false, "Acciones"},
-         "Acciones", "Acciones", kNada, kNada},
+         "Acciones", "Acciones", kNada, kNada,
+         Listas{{"cmbNieve", -1, kZonaNieve}, {"cmbZonEol", -1, kZonaEolica}, {"cmbEntorno", -1, kEntorno}, {"cmbImportSismo", -1, kImportancia}, {"cmbEstruct", -1, kEstructura}, {"cmbSueloSismo", -1, kSueloSismo}, {"cmbCompart", -1, kCompartimentacion}, {"cmbDuct", -1, kDuctilidad}, {"cmbSuelo", -1, kSueloEstrato}},
+         {}},
         TablaDatosProy(),
-        TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno, {{"TxCercos", {}, kTexto}, {"txCuelgue", {}, kTexto}}),
+        // The blank element's concrete list starts at HA-25, behind its "Idem gral." row.
+        TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno,
+                   {{"TxCercos", {}, kTexto}, {"txCuelgue", {}, kTexto}}, ListasHormigon25()),
         TablaLibre("frmLosCime", "Soleras Armadas", "Losa Cimentación 01", PasoComprobacion::Bandera, {{"UCArmZap", {}, kZapatas}}),
         TablaLibre("frmMArco", "Arcos Fábrica", "Arco Fábrica 01", PasoComprobacion::Bandera, {}),
         TablaLibre("frmMArma", "Fábrica Armada", "Fábrica Armada 01", PasoComprobacion::Bandera, {}),

@@ -2,6 +2,7 @@
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
 #include "frame/Campos.h"
+#include "frame/Listas.h"
 
 namespace vardena {
 namespace {
@@ -37,7 +38,10 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxCota", {5, 6}, kTexto, {"5"}}, {"ChTrans", {}, kCasilla}, {"UCArVig", {10}, kNumDiam}, {"TxtPil", {5, 4}, kTexto, {"30"}},
         },
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Vigas de Hormigón Armado", "Viga Hormigón. P 01-02", kRecubEstructura, kMinimosVano},
+         "Vigas de Hormigón Armado", "Viga Hormigón. P 01-02", kRecubEstructura, kMinimosVano,
+         // The first match wins: a form's own list stands before the group it overrides.
+         ListasExposicion() + ListasViga() + ListasHormigon(),
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
         {"frmVigRegHorm", "HK", {
             {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAmbGral", {}, kLista},
@@ -59,7 +63,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxCota", {5, 6}, kTexto, {"1", "5"}}, {"ChTrans", {}, kCasilla},
         },
          {false, true, PasoComprobacion::OchoYSiete, false},
-         "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano},
+         "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano,
+         Listas{{"cmbPart", -1, kParticionMuros}, {"cmbTrPort", -1, kTramosPortico}, {"cmbTrForj", -1, kTramosForjado}} + ListasExposicion() + ListasViga() + ListasHormigon(),
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::LinealKg}},
         {"frmPilHorm", "HP", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -71,7 +77,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla},
         },
          {false, false, PasoComprobacion::SinArgumentos, false},
-         "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar},
+         "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar,
+         ListasPilar() + ListasHormigon(),
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}},
         {"frmForjUnid", "HU", {
             {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
             {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -95,7 +103,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxCota", {2}, kTexto, {"1.10"}}, {"TxtPil", {2, 3}, kTexto, {"30"}},
         },
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Forjado Unidireccional", "Forjado Unidir. 01", kRecubEstructura, kMinimosUnidireccional},
+         "Forjado Unidireccional", "Forjado Unidir. 01", kRecubEstructura, kMinimosUnidireccional,
+         Listas{{"cmbTipoFor", -1, kTipoForjado}, {"cmbCercos", -1, kCortanteUnidireccional}} + ListasForjado() + ListasExposicion() + ListasHormigon(),
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::MomentoKg, Magnitud::MomentoKg, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::SuperficieKg}},
         {"frmForjSitu", "HS", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista},
@@ -112,7 +122,11 @@ const std::vector<TablaForm>& TablasHormigon()
         },
          // Reasoned title, after the one-way slab's.
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Forjado in situ", "Forjado in situ 01", kRecubEstructura, kMinimosUnidireccional},
+         "Forjado in situ", "Forjado in situ 01", kRecubEstructura, kMinimosUnidireccional,
+         // The cast-in-place slab names its partition list cmbPart, in the place and with the rows
+         // of the one-way slab's Combo1.
+         Listas{{"cmbCercos", -1, kCortanteInSitu}, {"cmbPart", -1, kParticionMuros}} + ListasExposicion() + ListasHormigon(),
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}},
         {"frmForjRet", "HR", {
             {"txtMf", {9, 10, 11, 6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto}, {"UCMall", {0}, kMallazo}, {"cmbTipoFor", {}, kLista},
             {"txtForj", {0, 1, 2, 3, 4, 10, 11, 12, 13, 5, 6, 7, 8, 9}, kTexto, {"10", "70", "25", "5", "30", "6.00", "6.00", "1.20"}},
@@ -129,7 +143,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto},
         },
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet},
+         "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet,
+         Listas{{"cmbTipoFor", -1, kCaseton}} + ListasForjado() + ListasHormigon(),
+         {Magnitud::LinealKg}},
         {"frmForMaci", "HQ", {
             {"txtMf", {11, 10, 9, 8, 7, 6, 5, 4, 3, 0, 1, 2}, kTexto}, {"UCMall", {0}, kMallazo}, {"TxtCanto", {}, kTexto, {"20"}},
             {"txtTitulo", {}, kTexto},
@@ -147,7 +163,9 @@ const std::vector<TablaForm>& TablasHormigon()
          // The solid slab compares its spans as the waffle slab does, and its depth in place of the
          // waffle's depths.
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Forjados Macizos", "Forjado Macizo 01", kRecubYPanelCentral, kMinimosForMaci},
+         "Forjados Macizos", "Forjado Macizo 01", kRecubYPanelCentral, kMinimosForMaci,
+         ListasForjado() + ListasHormigon(),
+         {Magnitud::LinealKg}},
         {"frmAbaco", "HV", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -162,7 +180,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"txtTitulo", {}, kTexto},
         },
          {false, false, PasoComprobacion::SinArgumentos, false},
-         "Abacos de Hormigón Armado", "Abaco 01", kRecubYPanelCentral, kMinimosAbaco},
+         "Abacos de Hormigón Armado", "Abaco 01", kRecubYPanelCentral, kMinimosAbaco,
+         Listas{{"cmbTipoFor", -1, kCasetonAbaco}, {"cmbCercos", -1, kCortanteNervios}} + ListasHormigon(),
+         {Magnitud::LinealKg}},
         {"frmMensCorta", "HW", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {3, 2, 0, 1}, kTexto}, {"UCArmPrinc", {}, kNumDiam}, {"UCArmCercos", {}, kNumDiam}, {"UCArmColgar", {}, kNumDiam},
@@ -173,7 +193,9 @@ const std::vector<TablaForm>& TablasHormigon()
         },
          // Reasoned minimums: the corbel's sizes must be positive.
          {true, true, PasoComprobacion::SinArgumentos, false},
-         "Ménsulas Cortas", "Ménsula 01", kRecubEstructura, kMinimosMensCorta},
+         "Ménsulas Cortas", "Ménsula 01", kRecubEstructura, kMinimosMensCorta,
+         Listas{{"Hormig", -1, kHormigonado}} + ListasHormigon25(),
+         {Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Lineal}},
         {"frmVigPared", "HY", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"txtDat2", {}, kTexto, {"500"}}, {"TxtRes3", {}, kTexto}, {"TxtRes1", {}, kTexto},
@@ -187,7 +209,9 @@ const std::vector<TablaForm>& TablasHormigon()
         },
          // The deep beam also compares the column depths with 200, an upper limit, not listed here.
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Vigas de Hormigón de Gran Canto", "Viga Pared. Pilar 01-02", kRecubEstructura, kMinimosVano},
+         "Vigas de Hormigón de Gran Canto", "Viga Pared. Pilar 01-02", kRecubEstructura, kMinimosVano,
+         ListasViga() + ListasHormigon(),
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza}},
         {"frmEscHorm", "HZ", {
             {"TxtRes1", {0, 1}, kTexto}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbRecub", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"OptLosa", {2, 1, 3, 0}, kOpcion},
@@ -205,7 +229,9 @@ const std::vector<TablaForm>& TablasHormigon()
             {"UCNumDiamH1", {1, 2, 3, 5}, kNumDiam}, {"OptH1izq", {2, 1, 0}, kOpcion}, {"OptH1der", {0, 1, 2}, kOpcion},
         },
          {true, true, PasoComprobacion::Bandera, false},
-         "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubEstructura, kMinimosEscHorm},
+         "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubEstructura, kMinimosEscHorm,
+         ListasExposicion() + ListasHormigon(),
+         {}},
     };
     return tablas;
 }

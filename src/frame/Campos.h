@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/Form.h"
+#include "frame/Listas.h"
 
 namespace vardena {
 
@@ -78,9 +79,20 @@ inline constexpr Valor kRecubEstructura[] = {{"CmbRecub", {}, 3}};
 inline constexpr Valor kMinimosVano[] = {{"TxCota", {{1, 3}}, 0}};
 inline constexpr Valor kMinimosPilar[] = {{"txtTramo", {{0, 0}, {3, 3}, {4, 4}}, 0}, {"LePil", {{0, 11}}, 0}};
 
+// What a load field TxtQ(i) holds, which gives its unit labels and its factor to S.I.: forces,
+// loads per length and per area and moments held in tonnes; loads per length and per area and
+// moments held in kilograms; stresses in kg/cm2. Beams: TxtQ(1) to (3) are the loads of the
+// three stretches, the others point loads. Columns: two moments, the axial force and the
+// enclosure load per metre. Footings and walls: axial force and moment (per metre for the strip
+// footing and the walls), the ground stress, and the surcharge or cohesion of the fill in t/m2.
+// Slabs: area loads in kg/m2 ("500"), line loads in t/m at the ends ("0.2"), moments per rib in
+// m·kg ("1950"); the "70" of the one-way slab is an area load in kg/m2 like its neighbours.
+enum class Magnitud { Ninguna, Fuerza, Lineal, Momento, Superficie, LinealKg, SuperficieKg, MomentoKg, Tension };
+
 // The definition of a form: its name and catalogue code, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
-// defaults and the minimums its check compares.
+// defaults, the minimums its check compares, the rows of its lists and what each of its load
+// fields holds.
 struct TablaForm {
     std::string_view nombre;  // "frmZapCorr"
     std::string_view codigo;  // catalogue code; "" for forms without a row
@@ -90,6 +102,8 @@ struct TablaForm {
     std::string_view titulo;
     std::span<const Valor> propios;
     std::span<const Valor> minimos;
+    Listas listas;
+    std::vector<Magnitud> cargas;  // of TxtQ(0), TxtQ(1)...
 };
 
 

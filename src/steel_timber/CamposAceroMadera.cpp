@@ -2,6 +2,7 @@
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
 #include "frame/Campos.h"
+#include "frame/Listas.h"
 
 namespace vardena {
 namespace {
@@ -28,7 +29,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
         },
          // Reasoned caption and title for the steel beam, after the concrete beam's.
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano},
+         "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
+         ListasAcero() + ListasViga(),
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
         {"frmPilMet", "LP", {
             {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
             {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -40,7 +43,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TxtRes1", {}, kTexto},
         },
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet},
+         "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
+         ListasAcero(),
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}},
         {"frmBasMet", "LS", {
             {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
             {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
@@ -50,7 +55,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TxCotaCartX", {1, 0}, kTexto, {"15", "10"}}, {"TxCota", {1, 0}, kTexto, {"50", "60"}}, {"txtTitulo", {}, kTexto},
         },
          {true, true, PasoComprobacion::Ninguno, true},
-         "Bases metálicas", "Base pilar 01", kNada, kNada},
+         "Bases metálicas", "Base pilar 01", kNada, kNada,
+         Listas{{"CmbTornillos", -1, kTornillos}} + ListasAcero(),
+         {}},
         {"frmForjAcer", "LQ", {
             {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
@@ -61,7 +68,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}}, {"UCPerfil1", {}, kPerfil},
         },
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer},
+         "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
+         ListasAcero() + ListasViga(),
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}},
         {"frmEscMet", "LZ", {
             {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
             {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
@@ -74,7 +83,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"OptDApoIzq", {2, 0}, kOpcion}, {"OptDApoDer", {0, 2}, kOpcion},
         },
          {true, true, PasoComprobacion::Ninguno, true},
-         "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada},
+         "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
+         ListasAcero(),
+         {}},
         {"frmVigMade", "MB", {
             {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -87,7 +98,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
         },
          // Reasoned titles for the timber forms, after the concrete and steel ones.
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano},
+         "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano,
+         Listas{{"CmbCargaComp", -1, kCargaCompartida}} + ListasMadera() + ListasViga(),
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
         {"frmPilMade", "MC", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -100,7 +113,9 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"txtTitulo", {}, kTexto},
         },
          {false, false, PasoComprobacion::SinArgumentos, false},
-         "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar},
+         "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
+         Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}},
         {"frmForMade", "MD", {
             {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
@@ -113,13 +128,17 @@ const std::vector<TablaForm>& TablasAceroMadera()
             {"txtEF", {}, kTexto, {"60"}}, {"CmbUso", {}, kLista}, {"txtResF1", {}, kTexto}, {"txtResF2", {}, kTexto},
         },
          {false, true, PasoComprobacion::SinArgumentos, false},
-         "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade},
+         "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
+         Listas{{"CmbResis", -1, kResistenciaIdemAlFinal}, {"CmbServi", -1, kServicioIdemAlFinal}, {"Combo1", -1, kParticionMadera}} + ListasMadera(),
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}},
         {"frmEscMade", "ME", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
         },
          {true, true, PasoComprobacion::Bandera, true},
-         "Escalera de Madera", "Escalera Madera 01", kNada, kNada},
+         "Escalera de Madera", "Escalera Madera 01", kNada, kNada,
+         ListasMadera(),
+         {}},
     };
     return tablas;
 }
