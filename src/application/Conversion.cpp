@@ -7,6 +7,7 @@
 #include <random>
 
 #include "building/DatosGen.h"
+#include "frame/Campos.h"
 #include "frame/ElementForm.h"
 #include "frame/Formularios.h"
 #include "works/Catalogo.h"
@@ -24,31 +25,31 @@ namespace vardena {
 namespace {
 
 struct Dispatch {
-    const char* code;
-    const char* form;
+    std::string code;
+    std::string form;
     bool records;  // the whole List1, once per run; else once per file
     bool list4;    // entered in List4 when it finishes
 };
 
-// Codes LS, LZ, ME and DP are in the catalogue but deliberately not here: their files stay
+// The codes the run serves: the general data, and every form whose definition asks for it.
+// Codes LS, LZ, ME and DP are in the catalogue but their forms are not served: their files stay
 // as version 3 left them.
-constexpr Dispatch kDispatch[] = {
-    {"CE", "DatosGen", false, true},       {"CK", "frmAccio", false, true},      {"HJ", "frmVigHorm", true, true},
-    {"HK", "frmVigRegHorm", true, true},   {"HP", "frmPilHorm", true, true},     {"HU", "frmForjUnid", true, true},
-    {"HS", "frmForjSitu", true, true},     {"HR", "frmForjRet", true, true},     {"HQ", "frmForMaci", true, true},
-    {"HV", "frmAbaco", true, true},        {"HW", "frmMensCorta", true, true},   {"HY", "frmVigPared", true, false},
-    {"HZ", "frmEscHorm", true, true},      {"LJ", "frmVigMet", true, true},      {"LP", "frmPilMet", true, true},
-    {"LQ", "frmForjAcer", true, true},     {"MB", "frmVigMade", true, true},     {"MC", "frmPilMade", true, true},
-    {"MD", "frmForMade", true, true},      {"MF", "frmMuros", true, true},       {"MH", "frmMCerr", true, true},
-    {"MI", "frmMDint", true, true},        {"CS", "frmSuelo", true, true},       {"ZA", "frmZap", true, true},
-    {"ZB", "frmZapComb", true, true},      {"ZC", "frmZapCorr", true, true},     {"ZI", "frmPilotes", true, true},
-    {"ZM", "frmMuroH", true, true},        {"ZO", "frmMuroCont", true, true},    {"ZR", "frmMuroAnclado", true, false},
-    {"ZT", "frmTalud", true, true},
-};
+const std::vector<Dispatch>& Dispatches()
+{
+    static const std::vector<Dispatch> table = [] {
+        std::vector<Dispatch> out = {{"CE", "DatosGen", false, true}};
+        for (const TablaForm& t : TablasCampos())
+            if (t.despacho != Despacho::Ninguno)
+                out.push_back({std::string(t.codigo), std::string(t.nombre), t.despacho == Despacho::Registros,
+                               t.enList4});
+        return out;
+    }();
+    return table;
+}
 
 const Dispatch* Find(const std::string& code)
 {
-    for (const auto& d : kDispatch)
+    for (const auto& d : Dispatches())
         if (code == d.code)
             return &d;
     return nullptr;

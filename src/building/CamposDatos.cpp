@@ -79,7 +79,7 @@ const std::vector<TablaForm>& TablasDatosYLibres()
          {false, true, PasoComprobacion::Ninguno, false, "Acciones"},
          "Acciones", "Acciones", kNada, kNada,
          Listas{{"cmbNieve", -1, kZonaNieve}, {"cmbZonEol", -1, kZonaEolica}, {"cmbEntorno", -1, kEntorno}, {"cmbImportSismo", -1, kImportancia}, {"cmbEstruct", -1, kEstructura}, {"cmbSueloSismo", -1, kSueloSismo}, {"cmbCompart", -1, kCompartimentacion}, {"cmbDuct", -1, kDuctilidad}, {"cmbSuelo", -1, kSueloEstrato}},
-         {}},
+         {}, Despacho::UnaVezPorArchivo},
         TablaDatosProy(),
         // The blank element's concrete list starts at HA-25, behind its "Idem gral." row.
         TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno,

@@ -41,7 +41,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Vigas de Hormigón Armado", "Viga Hormigón. P 01-02", kRecubEstructura, kMinimosVano,
          // The first match wins: a form's own list stands before the group it overrides.
          ListasExposicion() + ListasViga() + ListasHormigon(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
         {"frmVigRegHorm", "HK", {
             {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAmbGral", {}, kLista},
@@ -65,7 +65,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, true, PasoComprobacion::OchoYSiete, false},
          "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano,
          Listas{{"cmbPart", -1, kParticionMuros}, {"cmbTrPort", -1, kTramosPortico}, {"cmbTrForj", -1, kTramosForjado}} + ListasExposicion() + ListasViga() + ListasHormigon(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::LinealKg}},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
         {"frmPilHorm", "HP", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -79,7 +79,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar,
          ListasPilar() + ListasHormigon(),
-         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}},
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
         {"frmForjUnid", "HU", {
             {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
             {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -105,7 +105,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado Unidireccional", "Forjado Unidir. 01", kRecubEstructura, kMinimosUnidireccional,
          Listas{{"cmbTipoFor", -1, kTipoForjado}, {"cmbCercos", -1, kCortanteUnidireccional}} + ListasForjado() + ListasExposicion() + ListasHormigon(),
-         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::MomentoKg, Magnitud::MomentoKg, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::SuperficieKg}},
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::MomentoKg, Magnitud::MomentoKg, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros},
         {"frmForjSitu", "HS", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista},
@@ -126,7 +126,7 @@ const std::vector<TablaForm>& TablasHormigon()
          // The cast-in-place slab names its partition list cmbPart, in the place and with the rows
          // of the one-way slab's Combo1.
          Listas{{"cmbCercos", -1, kCortanteInSitu}, {"cmbPart", -1, kParticionMuros}} + ListasExposicion() + ListasHormigon(),
-         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}},
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros},
         {"frmForjRet", "HR", {
             {"txtMf", {9, 10, 11, 6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto}, {"UCMall", {0}, kMallazo}, {"cmbTipoFor", {}, kLista},
             {"txtForj", {0, 1, 2, 3, 4, 10, 11, 12, 13, 5, 6, 7, 8, 9}, kTexto, {"10", "70", "25", "5", "30", "6.00", "6.00", "1.20"}},
@@ -145,7 +145,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet,
          Listas{{"cmbTipoFor", -1, kCaseton}} + ListasForjado() + ListasHormigon(),
-         {Magnitud::LinealKg}},
+         {Magnitud::LinealKg}, Despacho::Registros},
         {"frmForMaci", "HQ", {
             {"txtMf", {11, 10, 9, 8, 7, 6, 5, 4, 3, 0, 1, 2}, kTexto}, {"UCMall", {0}, kMallazo}, {"TxtCanto", {}, kTexto, {"20"}},
             {"txtTitulo", {}, kTexto},
@@ -165,7 +165,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados Macizos", "Forjado Macizo 01", kRecubYPanelCentral, kMinimosForMaci,
          ListasForjado() + ListasHormigon(),
-         {Magnitud::LinealKg}},
+         {Magnitud::LinealKg}, Despacho::Registros},
         {"frmAbaco", "HV", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -182,7 +182,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Abacos de Hormigón Armado", "Abaco 01", kRecubYPanelCentral, kMinimosAbaco,
          Listas{{"cmbTipoFor", -1, kCasetonAbaco}, {"cmbCercos", -1, kCortanteNervios}} + ListasHormigon(),
-         {Magnitud::LinealKg}},
+         {Magnitud::LinealKg}, Despacho::Registros},
         {"frmMensCorta", "HW", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {3, 2, 0, 1}, kTexto}, {"UCArmPrinc", {}, kNumDiam}, {"UCArmCercos", {}, kNumDiam}, {"UCArmColgar", {}, kNumDiam},
@@ -195,7 +195,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Ménsulas Cortas", "Ménsula 01", kRecubEstructura, kMinimosMensCorta,
          Listas{{"Hormig", -1, kHormigonado}} + ListasHormigon25(),
-         {Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Lineal}},
+         {Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Lineal}, Despacho::Registros},
         {"frmVigPared", "HY", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"txtDat2", {}, kTexto, {"500"}}, {"TxtRes3", {}, kTexto}, {"TxtRes1", {}, kTexto},
@@ -211,7 +211,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Vigas de Hormigón de Gran Canto", "Viga Pared. Pilar 01-02", kRecubEstructura, kMinimosVano,
          ListasViga() + ListasHormigon(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza}},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza}, Despacho::Registros, false},
         {"frmEscHorm", "HZ", {
             {"TxtRes1", {0, 1}, kTexto}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbRecub", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"OptLosa", {2, 1, 3, 0}, kOpcion},
@@ -231,7 +231,7 @@ const std::vector<TablaForm>& TablasHormigon()
          {true, true, PasoComprobacion::Bandera, false},
          "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubEstructura, kMinimosEscHorm,
          ListasExposicion() + ListasHormigon(),
-         {}},
+         {}, Despacho::Registros},
     };
     return tablas;
 }

@@ -89,10 +89,14 @@ inline constexpr Valor kMinimosPilar[] = {{"txtTramo", {{0, 0}, {3, 3}, {4, 4}},
 // m·kg ("1950"); the "70" of the one-way slab is an area load in kg/m2 like its neighbours.
 enum class Magnitud { Ninguna, Fuerza, Lineal, Momento, Superficie, LinealKg, SuperficieKg, MomentoKg, Tension };
 
+// How the conversion serves a form: not at all (its files stay as version 3 left them), every
+// record of its List1 once per run, or one save for each file of its code met.
+enum class Despacho { Ninguno, Registros, UnaVezPorArchivo };
+
 // The definition of a form: its name and catalogue code, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
-// defaults, the minimums its check compares, the rows of its lists and what each of its load
-// fields holds.
+// defaults, the minimums its check compares, the rows of its lists, what each of its load
+// fields holds, and how the conversion serves it.
 struct TablaForm {
     std::string_view nombre;  // "frmZapCorr"
     std::string_view codigo;  // catalogue code; "" for forms without a row
@@ -104,6 +108,8 @@ struct TablaForm {
     std::span<const Valor> minimos;
     Listas listas;
     std::vector<Magnitud> cargas;  // of TxtQ(0), TxtQ(1)...
+    Despacho despacho = Despacho::Ninguno;
+    bool enList4 = true;  // the conversion enters the form in List4 when it finishes
 };
 
 

@@ -38,7 +38,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Muros de Fábrica", "Muro Fábrica 01", kNada, kMinimosMuros,
          Listas{{"CmbCatEjec", -1, kCategoriaEjecucion}},
-         {Magnitud::Tension}},
+         {Magnitud::Tension}, Despacho::Registros},
         {"frmMCerr", "MH", {
             {"TxtQ", {3}, kTexto, {"0.05"}}, {"txtTitulo", {}, kTexto}, {"OptCab", {2, 1, 0}, kOpcion}, {"OptBase", {0, 1}, kOpcion},
             {"OptIzq", {1, 0}, kOpcion}, {"OptDer", {0, 1}, kOpcion}, {"OptCalc", {1, 0}, kOpcion},
@@ -50,7 +50,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Cerramientos sometidos a acciones horizontales", "Cerramiento 01", kNada, kMinimosMCerr,
          Listas{{"CmbCatEjec", -1, kCategoriaEjecucion}, {"CmbFMort", -1, kMortero}, {"CmbFMat", -1, kPieza}},
-         {Magnitud::Tension, Magnitud::Tension, Magnitud::Lineal, Magnitud::Superficie}},
+         {Magnitud::Tension, Magnitud::Tension, Magnitud::Lineal, Magnitud::Superficie}, Despacho::Registros},
         {"frmMDint", "MI", {
             {"TxtRes1", {2, 1, 0}, kTexto}, {"CmbDintel", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista},
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -67,7 +67,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Dintel Fábrica", "Dintel 01", kRecubEstructura, kMinimosMDint,
          Listas{{"CmbDintel", -1, kDintel}, {"CmbAmbGral", -1, kAmbienteDintel}, {"CmbAmbEspec", -1, kAmbienteEspecificoDintel}, {"cmbAceroPerfil", -1, kAceroLaminado}} + ListasMadera() + ListasHormigon(),
-         {Magnitud::Tension, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal}},
+         {Magnitud::Tension, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
         {"frmSuelo", "CS", {
             {"txtV", {}, kTexto, {"250"}}, {"txtHy", {}, kTexto, {"0"}}, {"txtIg", {}, kTexto, {"1.00"}},
             {"txtIq", {}, kTexto, {"1.00"}}, {"txtIc", {}, kTexto, {"1.00"}}, {"txtHx", {}, kTexto, {"0"}},
@@ -86,7 +86,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {false, true, PasoComprobacion::Ninguno, false},
          "Definición del terreno de cimentación", "Terreno 01", kNada, kNada,
          Listas{{"CmbTerreno", -1, kTerreno}, {"ComboCim", -1, kCimiento}},
-         {}},
+         {}, Despacho::Registros},
         {"frmZap", "ZA", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {1, 5, 4, 3, 2, 0}, kTexto}, {"txtTitulo", {}, kTexto}, {"chkRiostra", {}, kCasilla}, {"Check1", {}, kCasilla},
@@ -103,7 +103,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Zapatas Aisladas", "Zapata Aislada 01", kRecubTerrenoYPosicionInterior, kMinimosZap,
          ListasHormigon(),
-         {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Tension}},
+         {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Tension}, Despacho::Registros},
         {"frmZapComb", "ZB", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {2, 0, 1}, kTexto}, {"Check1", {}, kCasilla}, {"TxtQ", {4}, kTexto, {"2.5"}}, {"UCArmZap", {2, 3, 0, 1}, kZapatas},
@@ -113,7 +113,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Zapatas Combinadas", "Zapata Combinada 01-02", kRecubTerreno, kMinimosZapComb,
          ListasHormigon(),
-         {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Tension}},
+         {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Tension}, Despacho::Registros},
         {"frmZapCorr", "ZC", {
             {"Check1", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}}, {"UCArmZap", {0, 1}, kZapatas}, {"OpTipoMuro", {1, 0}, kOpcion},
             {"TxtQ", {0, 1}, kTexto, {"40", "0"}}, {"TxCotaMuro", {}, kTexto, {"30"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
@@ -123,7 +123,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {true, true, PasoComprobacion::Bandera, false},
          "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr,
          ListasHormigon(),
-         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension}},
+         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension}, Despacho::Registros},
         {"frmPilotes", "ZI", {
             {"txtQadm", {}, kTexto}, {"CmbApoyo", {}, kLista}, {"ChNF", {}, kCasilla}, {"CmbEstratos", {}, kLista},
             {"TxtLongPil", {}, kTexto, {"12"}}, {"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}},
@@ -149,7 +149,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Pilotes", "Pilotes 01", kRecubTerreno, kMinimosPilotes,
          // The pile loads, then the tip, shaft and total capacities, forces all.
          Listas{{"CmbApoyo", -1, kApoyoPilote}, {"CmbEstratos", -1, kEstratos}, {"CmbCaract", -1, kCaracterizacion}, {"cmbSuelo", -1, kSueloPilote}, {"cmbPil", 0, kPilTerreno}, {"cmbPil", 1, kPilNumero}, {"cmbPil", 2, kPilCarga}, {"cmbPil", 3, kPilDificultad}, {"cmbPil", 4, kPilApoyo}, {"cmbPil", 5, kPilPunta}, {"CmbTipos", -1, kTiposPilote}, {"CmbDiam", -1, kDiametroPilote}, {"CmbNumPil", -1, kNumeroPilotes}} + ListasHormigon25(),
-         {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
+         {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
         {"frmMuroH", "ZM", {
             {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
             {"Text1", {}, kTexto, {"30"}}, {"OptDelta", {2, 1, 0}, kOpcion}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
@@ -165,7 +165,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,
          Listas{{"CmbTerr", -1, kRelleno}} + ListasMuro() + ListasHormigon(),
-         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}},
+         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}, Despacho::Registros},
         {"frmMuroCont", "ZO", {
             {"cmbTipo", {}, kLista}, {"ChkMortero", {}, kCasilla}, {"TxtDensFabr", {}, kTexto, {"2600"}},
             {"TxCoefAcc", {}, kTexto, {"1.70"}}, {"TxtQ", {5}, kTexto, {"90"}}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
@@ -186,7 +186,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Muros de Contención", "Muro Contención 01", kRecubTerreno, kMinimosMuro,
          // TxtQ(5) is the strength of a masonry wall.
          Listas{{"cmbTipo", -1, kTipoMuroContencion}, {"CmbTerreno", -1, kTerreno}, {"CmbTerr", -1, kRellenoContencion}} + ListasHormigon(),
-         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Superficie, Magnitud::Tension}},
+         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Superficie, Magnitud::Tension}, Despacho::Registros},
         {"frmMuroAnclado", "ZR", {
             {"TxtQ", {4}, kTexto, {"40"}}, {"txtAng", {0}, kTexto, {"25"}}, {"TxtSep", {0, 1}, kTexto, {"300"}},
             {"txtAng", {1}, kTexto, {"25"}}, {"TxtQ", {5}, kTexto, {"40"}}, {"TxtSep", {2}, kTexto, {"300"}},
@@ -206,7 +206,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Muros Anclados", "Muro Anclado 01", kRecubTerreno, kMinimosMuro,
          // TxtQ(4) to (7) are the tensions of the anchors.
          Listas{{"CmbTalud", -1, kTalud}, {"cmbTerz", -1, kTerrenoAnclado}} + ListasMuro() + ListasHormigon(),
-         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Superficie}},
+         {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Superficie}, Despacho::Registros, false},
         {"frmTalud", "ZT", {
             {"TxtQ", {1}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1800"}},
             {"CmbTalud", {}, kLista}, {"TxtRes1", {0}, kTexto}, {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto},
@@ -217,7 +217,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Taludes", "Talud 01", kNada, kMinimosTalud,
          Listas{{"CmbTalud", -1, kTalud}},
-         {Magnitud::Superficie, Magnitud::Superficie}},
+         {Magnitud::Superficie, Magnitud::Superficie}, Despacho::Registros},
     };
     return tablas;
 }

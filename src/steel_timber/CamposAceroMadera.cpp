@@ -31,7 +31,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
         {"frmPilMet", "LP", {
             {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
             {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -45,7 +45,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
-         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}},
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
         {"frmBasMet", "LS", {
             {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
             {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
@@ -70,7 +70,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
          ListasAcero() + ListasViga(),
-         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}},
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
         {"frmEscMet", "LZ", {
             {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
             {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
@@ -100,7 +100,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano,
          Listas{{"CmbCargaComp", -1, kCargaCompartida}} + ListasMadera() + ListasViga(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
         {"frmPilMade", "MC", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -115,7 +115,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
          Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
-         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}},
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
         {"frmForMade", "MD", {
             {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
@@ -130,7 +130,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
          Listas{{"CmbResis", -1, kResistenciaIdemAlFinal}, {"CmbServi", -1, kServicioIdemAlFinal}, {"Combo1", -1, kParticionMadera}} + ListasMadera(),
-         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}},
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
         {"frmEscMade", "ME", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
