@@ -40,8 +40,8 @@ const std::vector<Dispatch>& Dispatches()
         std::vector<Dispatch> out = {{"CE", "DatosGen", false, true}};
         for (const TablaForm& t : TablasCampos())
             if (t.despacho != Despacho::Ninguno)
-                out.push_back({std::string(t.codigo), std::string(t.nombre), t.despacho == Despacho::Registros,
-                               t.enList4});
+                out.push_back({std::string(CodigoEnCatalogo(t.nombre)), std::string(t.nombre),
+                               t.despacho == Despacho::Registros, t.enList4});
         return out;
     }();
     return table;

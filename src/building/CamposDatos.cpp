@@ -11,7 +11,7 @@ namespace {
 TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
                      PasoComprobacion paso, std::vector<CampoDef> propios, Listas listas = ListasHormigon())
 {
-    TablaForm t{nombre, "", {
+    TablaForm t{nombre, {
         {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
         {"TxtRes1", {}, kTexto}, {"txtTitulo", {}, kTexto},
     }, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada, std::move(listas)};
@@ -33,7 +33,7 @@ CampoDef Textos(std::string_view nombre, int n)
 // table (row labels and twelve columns), drawings and details, audit texts, free paragraphs.
 TablaForm TablaDatosProy()
 {
-    TablaForm t{"frmDatosProy", "DP", {
+    TablaForm t{"frmDatosProy", {
         Textos("Text1a", 12), Textos("Text1b", 12), {"TextNotas1", {}, kTexto},
         Textos("Text2", 12), Textos("Text2a", 12), Textos("Text2b", 12), {"TextNotas2", {}, kTexto},
         {"Text3a", {}, kTexto},
@@ -58,7 +58,7 @@ TablaForm TablaDatosProy()
 const std::vector<TablaForm>& TablasDatosYLibres()
 {
     static const std::vector<TablaForm> tablas = {
-        {"frmAccio", "CK", {
+        {"frmAccio", {
             {"TxtSingP", {1}, kTexto, {"0"}}, {"TxtSingS", {0}, kTexto, {"0"}}, {"TxtSingP", {0}, kTexto, {"100"}},
             {"TxtLongP", {1}, kTexto, {"75"}}, {"TxtLongS", {0}, kTexto, {"0"}}, {"TxtLongP", {0}, kTexto, {"70"}},
             {"TxtSupeP", {1}, kTexto, {"300"}}, {"TxtSupeS", {0}, kTexto, {"300"}}, {"TxtSupeP", {0}, kTexto, {"250"}},

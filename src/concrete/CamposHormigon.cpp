@@ -22,7 +22,7 @@ constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {
 const std::vector<TablaForm>& TablasHormigon()
 {
     static const std::vector<TablaForm> tablas = {
-        {"frmVigHorm", "HJ", {
+        {"frmVigHorm", {
             {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista},
             {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"CmbPlanta", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"txtTitulo", {}, kTexto},
@@ -42,7 +42,7 @@ const std::vector<TablaForm>& TablasHormigon()
          // The first match wins: a form's own list stands before the group it overrides.
          ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
-        {"frmVigRegHorm", "HK", {
+        {"frmVigRegHorm", {
             {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAmbGral", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -66,7 +66,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano,
          Listas{{"cmbPart", -1, kParticionMuros}, {"cmbTrPort", -1, kTramosPortico}, {"cmbTrForj", -1, kTramosForjado}} + ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
-        {"frmPilHorm", "HP", {
+        {"frmPilHorm", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
             {"txtW", {}, kTexto, {"Cuantía excesiva"}},
@@ -80,7 +80,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar,
          ListasPilar() + ListasHormigon(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
-        {"frmForjUnid", "HU", {
+        {"frmForjUnid", {
             {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
             {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto},
@@ -106,7 +106,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Forjado Unidireccional", "Forjado Unidir. 01", kRecubEstructura, kMinimosUnidireccional,
          Listas{{"cmbTipoFor", -1, kTipoForjado}, {"cmbCercos", -1, kCortanteUnidireccional}} + ListasForjado() + ListasExposicion() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::MomentoKg, Magnitud::MomentoKg, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros},
-        {"frmForjSitu", "HS", {
+        {"frmForjSitu", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista},
             {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"ChMas1", {}, kCasilla},
@@ -127,7 +127,7 @@ const std::vector<TablaForm>& TablasHormigon()
          // of the one-way slab's Combo1.
          Listas{{"cmbCercos", -1, kCortanteInSitu}, {"cmbPart", -1, kParticionMuros}} + ListasExposicion() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros},
-        {"frmForjRet", "HR", {
+        {"frmForjRet", {
             {"txtMf", {9, 10, 11, 6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto}, {"UCMall", {0}, kMallazo}, {"cmbTipoFor", {}, kLista},
             {"txtForj", {0, 1, 2, 3, 4, 10, 11, 12, 13, 5, 6, 7, 8, 9}, kTexto, {"10", "70", "25", "5", "30", "6.00", "6.00", "1.20"}},
             {"txtTitulo", {}, kTexto}, {"OpAncho", {0, 1}, kOpcion}, {"OpPosPil", {0, 1, 2}, kOpcion}, {"TxtQ", {0}, kTexto, {"800"}},
@@ -146,7 +146,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet,
          Listas{{"cmbTipoFor", -1, kCaseton}} + ListasForjado() + ListasHormigon(),
          {Magnitud::LinealKg}, Despacho::Registros},
-        {"frmForMaci", "HQ", {
+        {"frmForMaci", {
             {"txtMf", {11, 10, 9, 8, 7, 6, 5, 4, 3, 0, 1, 2}, kTexto}, {"UCMall", {0}, kMallazo}, {"TxtCanto", {}, kTexto, {"20"}},
             {"txtTitulo", {}, kTexto},
             {"txtForj", {10, 11, 12, 13, 5, 6, 7, 8, 9}, kTexto, {"6.00", "6.00", "1.20", "1.20", "6.00", "6.00", "6.00", "6.00"}},
@@ -166,7 +166,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Forjados Macizos", "Forjado Macizo 01", kRecubYPanelCentral, kMinimosForMaci,
          ListasForjado() + ListasHormigon(),
          {Magnitud::LinealKg}, Despacho::Registros},
-        {"frmAbaco", "HV", {
+        {"frmAbaco", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
             {"UCArCer", {0, 1}, kNumDiamSep}, {"UCArVig", {1, 3, 0, 2}, kNumDiam}, {"ChMas1Y", {}, kCasilla}, {"ChMas1X", {}, kCasilla},
@@ -183,7 +183,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Abacos de Hormigón Armado", "Abaco 01", kRecubYPanelCentral, kMinimosAbaco,
          Listas{{"cmbTipoFor", -1, kCasetonAbaco}, {"cmbCercos", -1, kCortanteNervios}} + ListasHormigon(),
          {Magnitud::LinealKg}, Despacho::Registros},
-        {"frmMensCorta", "HW", {
+        {"frmMensCorta", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {3, 2, 0, 1}, kTexto}, {"UCArmPrinc", {}, kNumDiam}, {"UCArmCercos", {}, kNumDiam}, {"UCArmColgar", {}, kNumDiam},
             {"Hormig", {}, kLista}, {"TextCtg", {}, kTexto, {"Text2"}}, {"OpTipo", {0, 1, 2, 3}, kOpcion},
@@ -196,7 +196,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Ménsulas Cortas", "Ménsula 01", kRecubEstructura, kMinimosMensCorta,
          Listas{{"Hormig", -1, kHormigonado}} + ListasHormigon25(),
          {Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Lineal}, Despacho::Registros},
-        {"frmVigPared", "HY", {
+        {"frmVigPared", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"txtDat2", {}, kTexto, {"500"}}, {"TxtRes3", {}, kTexto}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"txtTitulo", {}, kTexto}, {"ChkPuntual", {}, kCasilla}, {"ChPilIzq", {}, kCasilla},
@@ -212,7 +212,7 @@ const std::vector<TablaForm>& TablasHormigon()
          "Vigas de Hormigón de Gran Canto", "Viga Pared. Pilar 01-02", kRecubEstructura, kMinimosVano,
          ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza}, Despacho::Registros, false},
-        {"frmEscHorm", "HZ", {
+        {"frmEscHorm", {
             {"TxtRes1", {0, 1}, kTexto}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbRecub", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"OptLosa", {2, 1, 3, 0}, kOpcion},
             {"txtTitulo", {}, kTexto}, {"TxtCanto", {0}, kTexto, {"0.20"}}, {"txtAncho", {0, 1}, kTexto, {"1.00"}},

@@ -93,13 +93,12 @@ enum class Magnitud { Ninguna, Fuerza, Lineal, Momento, Superficie, LinealKg, Su
 // record of its List1 once per run, or one save for each file of its code met.
 enum class Despacho { Ninguno, Registros, UnaVezPorArchivo };
 
-// The definition of a form: its name and catalogue code, its stored fields in the order of its
+// The definition of a form: its name, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
 // defaults, the minimums its check compares, the rows of its lists, what each of its load
 // fields holds, and how the conversion serves it.
 struct TablaForm {
-    std::string_view nombre;  // "frmZapCorr"
-    std::string_view codigo;  // catalogue code; "" for forms without a row
+    std::string_view nombre;  // "frmZapCorr"; its code is that of its catalogue row
     std::vector<CampoDef> campos;
     CicloForm ciclo;
     std::string_view caption;

@@ -25,7 +25,7 @@ constexpr Valor kMinimosTalud[] = {{"TxCotaTalud", {{0, 0}, {1, 1}}, 10}};
 const std::vector<TablaForm>& TablasFabricaTerreno()
 {
     static const std::vector<TablaForm> tablas = {
-        {"frmMuros", "MF", {
+        {"frmMuros", {
             {"CmbCatEjec", {}, kLista}, {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"CmbPlanta", {}, kLista},
             {"TxtDensidad", {}, kTexto, {"1900"}}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto},
             {"TxtCota", {24, 23}, kTexto, {"0.80", "1.30"}}, {"CheckI", {}, kCasilla}, {"CheckS", {}, kCasilla},
@@ -39,7 +39,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Muros de Fábrica", "Muro Fábrica 01", kNada, kMinimosMuros,
          Listas{{"CmbCatEjec", -1, kCategoriaEjecucion}},
          {Magnitud::Tension}, Despacho::Registros},
-        {"frmMCerr", "MH", {
+        {"frmMCerr", {
             {"TxtQ", {3}, kTexto, {"0.05"}}, {"txtTitulo", {}, kTexto}, {"OptCab", {2, 1, 0}, kOpcion}, {"OptBase", {0, 1}, kOpcion},
             {"OptIzq", {1, 0}, kOpcion}, {"OptDer", {0, 1}, kOpcion}, {"OptCalc", {1, 0}, kOpcion},
             {"TxtCota", {1, 0, 2}, kTexto, {"2.60", "6.00", "0.12"}}, {"TxtQ", {2}, kTexto, {"0.1"}}, {"CmbCatEjec", {}, kLista},
@@ -51,7 +51,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Cerramientos sometidos a acciones horizontales", "Cerramiento 01", kNada, kMinimosMCerr,
          Listas{{"CmbCatEjec", -1, kCategoriaEjecucion}, {"CmbFMort", -1, kMortero}, {"CmbFMat", -1, kPieza}},
          {Magnitud::Tension, Magnitud::Tension, Magnitud::Lineal, Magnitud::Superficie}, Despacho::Registros},
-        {"frmMDint", "MI", {
+        {"frmMDint", {
             {"TxtRes1", {2, 1, 0}, kTexto}, {"CmbDintel", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista},
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"cmbAceroPerfil", {}, kLista}, {"txtEF", {}, kTexto, {"60"}},
@@ -68,7 +68,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Dintel Fábrica", "Dintel 01", kRecubEstructura, kMinimosMDint,
          Listas{{"CmbDintel", -1, kDintel}, {"CmbAmbGral", -1, kAmbienteDintel}, {"CmbAmbEspec", -1, kAmbienteEspecificoDintel}, {"cmbAceroPerfil", -1, kAceroLaminado}} + ListasMadera() + ListasHormigon(),
          {Magnitud::Tension, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
-        {"frmSuelo", "CS", {
+        {"frmSuelo", {
             {"txtV", {}, kTexto, {"250"}}, {"txtHy", {}, kTexto, {"0"}}, {"txtIg", {}, kTexto, {"1.00"}},
             {"txtIq", {}, kTexto, {"1.00"}}, {"txtIc", {}, kTexto, {"1.00"}}, {"txtHx", {}, kTexto, {"0"}},
             {"txtB", {}, kTexto, {"2.00"}}, {"txtSg", {}, kTexto, {"1.00"}}, {"txtSq", {}, kTexto, {"1.00"}},
@@ -87,7 +87,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Definición del terreno de cimentación", "Terreno 01", kNada, kNada,
          Listas{{"CmbTerreno", -1, kTerreno}, {"ComboCim", -1, kCimiento}},
          {}, Despacho::Registros},
-        {"frmZap", "ZA", {
+        {"frmZap", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {1, 5, 4, 3, 2, 0}, kTexto}, {"txtTitulo", {}, kTexto}, {"chkRiostra", {}, kCasilla}, {"Check1", {}, kCasilla},
             {"TxtQ", {12}, kTexto, {"2.5"}}, {"UCArmZap", {1, 0, 7, 5, 3, 2, 4, 6}, kZapatas},
@@ -104,7 +104,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Zapatas Aisladas", "Zapata Aislada 01", kRecubTerrenoYPosicionInterior, kMinimosZap,
          ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Tension}, Despacho::Registros},
-        {"frmZapComb", "ZB", {
+        {"frmZapComb", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {2, 0, 1}, kTexto}, {"Check1", {}, kCasilla}, {"TxtQ", {4}, kTexto, {"2.5"}}, {"UCArmZap", {2, 3, 0, 1}, kZapatas},
             {"txtTitulo", {}, kTexto}, {"TxCota", {9}, kTexto, {"110"}}, {"TxtQ", {2, 3, 0, 1}, kTexto, {"0", "20", "20", "0"}},
@@ -114,7 +114,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Zapatas Combinadas", "Zapata Combinada 01-02", kRecubTerreno, kMinimosZapComb,
          ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Tension}, Despacho::Registros},
-        {"frmZapCorr", "ZC", {
+        {"frmZapCorr", {
             {"Check1", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}}, {"UCArmZap", {0, 1}, kZapatas}, {"OpTipoMuro", {1, 0}, kOpcion},
             {"TxtQ", {0, 1}, kTexto, {"40", "0"}}, {"TxCotaMuro", {}, kTexto, {"30"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
             {"TxCotaAlto", {}, kTexto, {"50"}}, {"txtTitulo", {}, kTexto}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
@@ -124,7 +124,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr,
          ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension}, Despacho::Registros},
-        {"frmPilotes", "ZI", {
+        {"frmPilotes", {
             {"txtQadm", {}, kTexto}, {"CmbApoyo", {}, kLista}, {"ChNF", {}, kCasilla}, {"CmbEstratos", {}, kLista},
             {"TxtLongPil", {}, kTexto, {"12"}}, {"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}},
             {"txtCohesion", {0}, kTexto, {"10"}}, {"txtRozam", {0}, kTexto, {"30"}}, {"txtSPT", {0}, kTexto, {"20"}},
@@ -150,7 +150,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          // The pile loads, then the tip, shaft and total capacities, forces all.
          Listas{{"CmbApoyo", -1, kApoyoPilote}, {"CmbEstratos", -1, kEstratos}, {"CmbCaract", -1, kCaracterizacion}, {"cmbSuelo", -1, kSueloPilote}, {"cmbPil", 0, kPilTerreno}, {"cmbPil", 1, kPilNumero}, {"cmbPil", 2, kPilCarga}, {"cmbPil", 3, kPilDificultad}, {"cmbPil", 4, kPilApoyo}, {"cmbPil", 5, kPilPunta}, {"CmbTipos", -1, kTiposPilote}, {"CmbDiam", -1, kDiametroPilote}, {"CmbNumPil", -1, kNumeroPilotes}} + ListasHormigon25(),
          {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
-        {"frmMuroH", "ZM", {
+        {"frmMuroH", {
             {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
             {"Text1", {}, kTexto, {"30"}}, {"OptDelta", {2, 1, 0}, kOpcion}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
             {"Check1", {}, kCasilla}, {"CheckFM", {}, kCasilla}, {"TxtQ", {1, 0, 3}, kTexto, {"0", "10", "0.3"}}, {"txtTitulo", {}, kTexto},
@@ -166,7 +166,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,
          Listas{{"CmbTerr", -1, kRelleno}} + ListasMuro() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}, Despacho::Registros},
-        {"frmMuroCont", "ZO", {
+        {"frmMuroCont", {
             {"cmbTipo", {}, kLista}, {"ChkMortero", {}, kCasilla}, {"TxtDensFabr", {}, kTexto, {"2600"}},
             {"TxCoefAcc", {}, kTexto, {"1.70"}}, {"TxtQ", {5}, kTexto, {"90"}}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"TxtRes1", {0, 1, 2, 4, 3}, kTexto}, {"Text2", {}, kTexto, {"30"}},
@@ -187,7 +187,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          // TxtQ(5) is the strength of a masonry wall.
          Listas{{"cmbTipo", -1, kTipoMuroContencion}, {"CmbTerreno", -1, kTerreno}, {"CmbTerr", -1, kRellenoContencion}} + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Superficie, Magnitud::Tension}, Despacho::Registros},
-        {"frmMuroAnclado", "ZR", {
+        {"frmMuroAnclado", {
             {"TxtQ", {4}, kTexto, {"40"}}, {"txtAng", {0}, kTexto, {"25"}}, {"TxtSep", {0, 1}, kTexto, {"300"}},
             {"txtAng", {1}, kTexto, {"25"}}, {"TxtQ", {5}, kTexto, {"40"}}, {"TxtSep", {2}, kTexto, {"300"}},
             {"txtAng", {2}, kTexto, {"25"}}, {"TxtQ", {6}, kTexto, {"40"}}, {"TxtSep", {3}, kTexto, {"300"}},
@@ -207,7 +207,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          // TxtQ(4) to (7) are the tensions of the anchors.
          Listas{{"CmbTalud", -1, kTalud}, {"cmbTerz", -1, kTerrenoAnclado}} + ListasMuro() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Superficie}, Despacho::Registros, false},
-        {"frmTalud", "ZT", {
+        {"frmTalud", {
             {"TxtQ", {1}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1800"}},
             {"CmbTalud", {}, kLista}, {"TxtRes1", {0}, kTexto}, {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto},
             {"txtTitulo", {}, kTexto}, {"optDrenaje", {0, 1}, kOpcion}, {"TxCotaTalud", {2}, kTexto, {"45"}}, {"chkEstrato", {}, kCasilla},

@@ -18,7 +18,7 @@ constexpr Valor kMinimosForMade[] = {{"txtForj", {{0, 4}}, 0}, {"TxtQ", {{0, 4}}
 const std::vector<TablaForm>& TablasAceroMadera()
 {
     static const std::vector<TablaForm> tablas = {
-        {"frmVigMet", "LJ", {
+        {"frmVigMet", {
             {"cmbClase", {}, kLista}, {"UCPerfil1", {}, kPerfil}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"TxCota", {1}, kTexto, {" 5.50"}},
             {"TxtPil", {0, 1}, kTexto, {"30"}}, {"ChVigIzq", {}, kCasilla}, {"ChPilIzq", {}, kCasilla}, {"ChPilDer", {}, kCasilla},
             {"ChVigDer", {}, kCasilla}, {"TxCota", {2}, kTexto, {" 2.00"}}, {"TxtQ", {2}, kTexto, {"1.2"}},
@@ -32,7 +32,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
-        {"frmPilMet", "LP", {
+        {"frmPilMet", {
             {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
             {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
             {"ChkArriostradaX", {}, kCasilla}, {"ChkArriostradaY", {}, kCasilla}, {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto},
@@ -46,7 +46,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
-        {"frmBasMet", "LS", {
+        {"frmBasMet", {
             {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
             {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
             {"TxMx", {}, kTexto, {"2"}}, {"TxEspCartY", {}, kTexto, {"1.2"}}, {"TxEspCartX", {}, kTexto, {"1.2"}},
@@ -58,7 +58,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Bases metálicas", "Base pilar 01", kNada, kNada,
          Listas{{"CmbTornillos", -1, kTornillos}} + ListasAcero(),
          {}},
-        {"frmForjAcer", "LQ", {
+        {"frmForjAcer", {
             {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
             {"ChInclinado", {}, kCasilla}, {"txtForj", {4, 3, 2, 1}, kTexto, {"0", "2.5", "18", "40"}}, {"txtTitulo", {}, kTexto},
@@ -71,7 +71,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
          ListasAcero() + ListasViga(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
-        {"frmEscMet", "LZ", {
+        {"frmEscMet", {
             {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
             {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
             {"txtSolado", {}, kTexto, {"1.00"}}, {"txtSobrUso", {}, kTexto, {"4.00"}}, {"txtAncho", {1, 0}, kTexto, {"1.00"}},
@@ -86,7 +86,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
          ListasAcero(),
          {}},
-        {"frmVigMade", "MB", {
+        {"frmVigMade", {
             {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
             {"CmbCargaComp", {}, kLista}, {"txtResF2", {}, kTexto}, {"txtResF1", {}, kTexto}, {"CmbUso", {}, kLista},
@@ -101,7 +101,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano,
          Listas{{"CmbCargaComp", -1, kCargaCompartida}} + ListasMadera() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
-        {"frmPilMade", "MC", {
+        {"frmPilMade", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
             {"ChkArriostradaX", {}, kCasilla}, {"ChkArriostradaY", {}, kCasilla}, {"CmbForma", {}, kLista},
@@ -116,7 +116,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
          Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
-        {"frmForMade", "MD", {
+        {"frmForMade", {
             {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
             {"LblTab", {}, kTexto, {"TABLERO INSUFICIENTE"}}, {"ChInclinado", {}, kCasilla},
@@ -131,7 +131,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
          Listas{{"CmbResis", -1, kResistenciaIdemAlFinal}, {"CmbServi", -1, kServicioIdemAlFinal}, {"Combo1", -1, kParticionMadera}} + ListasMadera(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
-        {"frmEscMade", "ME", {
+        {"frmEscMade", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
         },

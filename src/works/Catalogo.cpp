@@ -76,6 +76,15 @@ std::string CodigoDeForm(Declaraciones& d, std::string_view formName)
     Halt("form " + std::string(formName) + " has no row in the element catalogue");
 }
 
+std::string_view CodigoEnCatalogo(std::string_view formName)
+{
+    // Row 0 is the main window, which shares the general data's code.
+    for (const auto& r : Catalogo())
+        if (r.row > 0 && SameNameNoCase(r.form, formName))
+            return r.code;
+    return {};
+}
+
 int FilaDeMenu(std::string_view menuCode)
 {
     for (const auto& r : Catalogo())

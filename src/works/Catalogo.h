@@ -25,6 +25,8 @@ const std::vector<CatalogRow>& Catalogo();
 void LlenaCatalogo(Declaraciones& d);
 // The code of a form by its name; a form outside the catalogue shows message 180 and halts.
 std::string CodigoDeForm(Declaraciones& d, std::string_view formName);
+// The code of a form's catalogue row, compared without regard to case; "" for a form without one.
+std::string_view CodigoEnCatalogo(std::string_view formName);
 // Catalogue row of a menu code, or -1.
 int FilaDeMenu(std::string_view menuCode);
 

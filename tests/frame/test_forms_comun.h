@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/Campos.h"
+#include "works/Catalogo.h"
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
 #include "base/Form.h"
@@ -108,7 +109,7 @@ inline std::vector<const TablaForm*> FormsDelCatalogo()
 {
     std::vector<const TablaForm*> out;
     for (const auto& t : TablasCampos())
-        if (!t.codigo.empty())
+        if (!CodigoEnCatalogo(t.nombre).empty())
             out.push_back(&t);
     return out;
 }

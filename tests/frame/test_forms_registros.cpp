@@ -93,7 +93,7 @@ void Rellena(Form& form)
 std::unique_ptr<Form> Abre(ObraDePrueba& obra, const TablaForm& t)
 {
     // Forms without a catalogue row cannot load; their controls are complete once created.
-    auto form = t.codigo.empty() ? CreaForm(obra.d(), t.nombre) : CargaForm(obra.d(), t.nombre);
+    auto form = CodigoEnCatalogo(t.nombre).empty() ? CreaForm(obra.d(), t.nombre) : CargaForm(obra.d(), t.nombre);
     DaFilas(*form);
     return form;
 }
