@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/Form.h"
+#include "frame/ControlesVisibles.h"
 #include "frame/Listas.h"
 
 namespace vardena {
@@ -96,7 +97,7 @@ enum class Despacho { Ninguno, Registros, UnaVezPorArchivo };
 // The definition of a form: its name, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
 // defaults, the minimums its check compares, the rows of its lists, what each of its load
-// fields holds, and how the conversion serves it.
+// fields holds, how the conversion serves it, and what its window shows besides.
 struct TablaForm {
     std::string_view nombre;  // "frmZapCorr"; its code is that of its catalogue row
     std::vector<CampoDef> campos;
@@ -109,6 +110,9 @@ struct TablaForm {
     std::vector<Magnitud> cargas;  // of TxtQ(0), TxtQ(1)...
     Despacho despacho = Despacho::Ninguno;
     bool enList4 = true;  // the conversion enters the form in List4 when it finishes
+    // The shown controls (frames, labels, buttons, pictures) with their captions, and the
+    // captions of its fields: those of its families first, then its own.
+    std::vector<ControlVisible> visibles;
 };
 
 

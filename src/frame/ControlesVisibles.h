@@ -3,6 +3,7 @@
 // with their Spanish design-time captions and tool tips. They never enter a record, so their
 // order does not matter; the language packs translate them by name.
 
+#include <initializer_list>
 #include <string_view>
 #include <vector>
 
@@ -19,6 +20,50 @@ struct ControlVisible {
     std::string_view caption;
     std::string_view tooltip = {};
 };
+
+// Shorthands of the kinds, for the tables of shown controls.
+inline constexpr Kind kLb = Kind::Label;
+inline constexpr Kind kFr = Kind::Frame;
+inline constexpr Kind kBt = Kind::CommandButton;
+inline constexpr Kind kPc = Kind::PictureBox;
+inline constexpr Kind kRt = Kind::RichTextBox;
+inline constexpr Kind kTx = Kind::TextBox;
+inline constexpr Kind kCb = Kind::ComboBox;
+inline constexpr Kind kCk = Kind::CheckBox;
+inline constexpr Kind kOp = Kind::OptionButton;
+inline constexpr Kind kNd = Kind::UCNumDiam;
+inline constexpr Kind kNs = Kind::UCNumDiamSep;
+inline constexpr Kind kZp = Kind::UCZapatas;
+inline constexpr Kind kPf = Kind::UCPerfil;
+inline constexpr Kind kM = Kind::UCMallazo;
+
+// Rows that several forms of a family share: the beams, the slabs, the columns, the footings
+// and walls, the masonry. A form's definition takes the blocks of its families, then its own.
+using BloqueVisibles = const std::vector<ControlVisible>& (*)();
+const std::vector<ControlVisible>& EtiquetasArmadoViga();
+const std::vector<ControlVisible>& EtiquetasContinuidad();
+const std::vector<ControlVisible>& EtiquetasEscalera();
+const std::vector<ControlVisible>& EtiquetasFabrica();
+const std::vector<ControlVisible>& EtiquetasForjado();
+const std::vector<ControlVisible>& EtiquetasForjadoLigero();
+const std::vector<ControlVisible>& EtiquetasLosaBandas();
+const std::vector<ControlVisible>& EtiquetasMuro();
+const std::vector<ControlVisible>& EtiquetasMuroDePlantas();
+const std::vector<ControlVisible>& EtiquetasPandeo();
+const std::vector<ControlVisible>& EtiquetasPilar();
+const std::vector<ControlVisible>& EtiquetasPilarAcero();
+const std::vector<ControlVisible>& EtiquetasPilarHormigon();
+const std::vector<ControlVisible>& EtiquetasPilaresViga();
+const std::vector<ControlVisible>& EtiquetasRelleno();
+const std::vector<ControlVisible>& EtiquetasResultadosAcero();
+const std::vector<ControlVisible>& EtiquetasRoca();
+const std::vector<ControlVisible>& EtiquetasViga();
+const std::vector<ControlVisible>& EtiquetasVigaHormigon();
+const std::vector<ControlVisible>& EtiquetasZapata();
+const std::vector<ControlVisible>& EtiquetasZapataBajoMuro();
+const std::vector<ControlVisible>& EtiquetasComunes();
+// The rows of the families given, in order, then the form's own rows.
+std::vector<ControlVisible> Visibles(std::initializer_list<BloqueVisibles> familias, std::vector<ControlVisible> propias = {});
 
 // The rows of a form by its name, those of the families it belongs to first; empty for a form
 // that has none in the table. A row of index -1 that names a control array gives its caption

@@ -2,6 +2,7 @@
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
 #include "frame/Campos.h"
+#include "frame/ControlesVisibles.h"
 #include "frame/Listas.h"
 
 namespace vardena {
@@ -31,7 +32,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga})},
         {"frmPilMet", {
             {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
             {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -45,7 +47,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
-         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
+         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo})},
         {"frmBasMet", {
             {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
             {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
@@ -57,7 +60,26 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {true, true, PasoComprobacion::Ninguno, true},
          "Bases metálicas", "Base pilar 01", kNada, kNada,
          Listas{{"CmbTornillos", -1, kTornillos}} + ListasAcero(),
-         {}},
+         {}, Despacho::Ninguno, true,
+         // The steel base plate: its bolts, its plate and the stiffeners in each direction.
+         Visibles({}, {
+             {kCb, "CmbTornillos", -1, "Calidad de los pernos"},
+             {kTx, "TxCota", -1, "Cota (cm)"},
+             {kTx, "Text1", -1, "Valor auxiliar"},
+             {kTx, "TxMx", -1, "Momento Mx"},
+             {kTx, "TxMy", -1, "Momento My"},
+             {kCk, "ChX", -1, "Cartelas en X"},
+             {kCk, "ChY", -1, "Cartelas en Y"},
+             {kTx, "TxEspCartX", -1, "Espesor cartela X (cm)"},
+             {kTx, "TxEspCartY", -1, "Espesor cartela Y (cm)"},
+             {kTx, "TxNumTorX", -1, "Nº de pernos en X"},
+             {kTx, "TxNumTorY", -1, "Nº de pernos en Y"},
+             {kTx, "TxCotaCartX", -1, "Cota cartela X # (cm)"},
+             {kTx, "TxCotaCartY", -1, "Cota cartela Y # (cm)"},
+             {kTx, "TxtRes1", 0, "Pernos"},
+             {kTx, "TxtRes1", 1, "Chapa"},
+             {kTx, "TxtRes1", 2, "Cartelas"},
+         })},
         {"frmForjAcer", {
             {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
@@ -70,7 +92,10 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
          ListasAcero() + ListasViga(),
-         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros, true,
+         Visibles({EtiquetasForjadoLigero, EtiquetasContinuidad, EtiquetasResultadosAcero}, {
+             {kCk, "ChInclinado", -1, "Correas"},
+         })},
         {"frmEscMet", {
             {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
             {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
@@ -85,7 +110,13 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {true, true, PasoComprobacion::Ninguno, true},
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
          ListasAcero(),
-         {}},
+         {}, Despacho::Ninguno, true,
+         Visibles({EtiquetasEscalera, EtiquetasResultadosAcero}, {
+             {kOp, "OptLosa", 0, "De 1 tramo"},
+             {kOp, "OptLosa", 1, "De 1 tramo con descanso"},
+             {kOp, "OptLosa", 2, "De 2 tramos"},
+             {kOp, "OptLosa", 3, "Rampa"},
+         })},
         {"frmVigMade", {
             {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -100,7 +131,13 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano,
          Listas{{"CmbCargaComp", -1, kCargaCompartida}} + ListasMadera() + ListasViga(),
-         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros},
+         {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
+         // The timber beam: the partitions it carries and how its load is shared.
+         Visibles({EtiquetasViga, EtiquetasContinuidad}, {
+             {kTx, "TextDviga", -1, "Sección"},
+             {kTx, "TextDviga", 0, "Ancho b (cm)"},
+             {kTx, "TextDviga", 1, "Canto h (cm)"},
+         })},
         {"frmPilMade", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -115,7 +152,11 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
          Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
-         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros},
+         {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
+         Visibles({EtiquetasPilar, EtiquetasPandeo}, {
+             {kTx, "txtTramo", -1, "Dimensión (cm)"},
+             {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
+         })},
         {"frmForMade", {
             {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
@@ -130,7 +171,15 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
          Listas{{"CmbResis", -1, kResistenciaIdemAlFinal}, {"CmbServi", -1, kServicioIdemAlFinal}, {"Combo1", -1, kParticionMadera}} + ListasMadera(),
-         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros},
+         {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros, true,
+         // The timber floor: its joists, its spans and the partitions on it.
+         Visibles({EtiquetasForjadoLigero, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+             {kCb, "Combo1", -1, "Partición"},
+             {kTx, "LblTab", -1, "Aviso del tablero"},
+             {kCk, "ChInclinado", -1, "Forjado inclinado"},
+             {kTx, "TextDviga", 0, "Ancho vigueta b (cm)"},
+             {kTx, "TextDviga", 1, "Canto vigueta h (cm)"},
+         })},
         {"frmEscMade", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
