@@ -99,22 +99,24 @@ std::string RandomHex(int digits)
     return s;
 }
 
-// A read-only or folder target is refused before anything is written for it.
-void CheckReplaceable(const fs::path& target)
+// A read-only or folder target is refused before anything is written for it. Returns the mode
+// of the file it replaces, or nothing when there is none yet (one look at the disk for both).
+std::optional<mode_t> CheckReplaceable(const fs::path& target)
 {
-    std::error_code ec;
-    if (fs::is_directory(target, ec))
+    struct stat st {};
+    if (::stat(target.c_str(), &st) != 0)
+        return std::nullopt;
+    if (S_ISDIR(st.st_mode))
         throw FileError(target.string(), "is a folder, not a file");
-    if (fs::exists(target, ec)) {
-        const auto perms = fs::status(target, ec).permissions();
-        if ((perms & fs::perms::owner_write) == fs::perms::none || ::access(target.c_str(), W_OK) != 0)
-            throw FileError(target.string(), "is read-only and was left as it was");
-    }
+    if ((st.st_mode & S_IWUSR) == 0 || ::access(target.c_str(), W_OK) != 0)
+        throw FileError(target.string(), "is read-only and was left as it was");
+    return st.st_mode & 07777;
 }
 
 // Writes the new file `fresh` that is to replace `target`, through the seam, with the permissions
-// of the file it replaces. On failure nothing of it is left and FileError names `target`.
-void WriteReplacement(const std::string& fresh, const fs::path& target, std::string_view bytes, bool durable)
+// of the file it replaces (`mode`). On failure nothing of it is left and FileError names `target`.
+void WriteReplacement(const std::string& fresh, const fs::path& target, std::string_view bytes, bool durable,
+                      std::optional<mode_t> mode)
 {
     std::error_code ec;
     auto& seam = Seam();
@@ -125,11 +127,8 @@ void WriteReplacement(const std::string& fresh, const fs::path& target, std::str
         fs::remove(fresh, ec);
         throw FileError(target.string(), "cannot be written" + ErrnoText(err));
     }
-    if (fs::exists(target, ec)) {
-        const auto perms = fs::status(target, ec).permissions();
-        if (!ec)
-            fs::permissions(fresh, perms, ec);
-    }
+    if (mode)
+        ::chmod(fresh.c_str(), *mode);
 }
 
 // Writes a new temporary file and renames it over `path`, through the seam.
@@ -142,14 +141,14 @@ void ReplaceThroughTemporary(const std::string& path, std::string_view bytes)
     std::error_code ec;
     if (!fs::is_directory(folder, ec))
         throw FileError(path, "its folder does not exist");
-    CheckReplaceable(target);
+    const std::optional<mode_t> mode = CheckReplaceable(target);
     std::string tmp;
     for (int attempt = 0; attempt < 20; ++attempt) {
         tmp = (folder / (".vardena-" + RandomHex(12) + ".tmp")).string();
         if (!fs::exists(tmp, ec))
             break;
     }
-    WriteReplacement(tmp, target, bytes, true);
+    WriteReplacement(tmp, target, bytes, true, mode);
     auto& seam = Seam();
     errno = 0;
     bool renamed = seam.rename ? seam.rename(tmp, path) : RealRename(tmp, path);
@@ -167,17 +166,34 @@ std::string ReadFileBytes(const std::string& path)
     if (StagingArea* area = StagingFor(path))
         if (auto staged = area->StagedFor(path))
             return ReadFileBytes(*staged);
-    std::error_code ec;
-    if (!fs::exists(path, ec))
-        throw FileError(path, "the file does not exist");
-    if (fs::is_directory(path, ec))
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        const int err = errno;
+        if (err == ENOENT)
+            throw FileError(path, "the file does not exist");
+        throw FileError(path, std::string("cannot be opened: ") + std::strerror(err));
+    }
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || S_ISDIR(st.st_mode)) {
+        ::close(fd);
         throw FileError(path, "is a folder, not a file");
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        throw FileError(path, std::string("cannot be opened: ") + std::strerror(errno));
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad())
-        throw FileError(path, "cannot be read");
+    }
+    std::string bytes;
+    bytes.reserve(static_cast<size_t>(st.st_size));
+    char buffer[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0) {
+            ::close(fd);
+            throw FileError(path, "cannot be read");
+        }
+        if (n == 0)
+            break;
+        bytes.append(buffer, static_cast<size_t>(n));
+    }
+    ::close(fd);
     return bytes;
 }
 
@@ -249,7 +265,7 @@ void StagingArea::Stage(const std::string& target, std::string_view bytes)
 {
     const fs::path t(target);
     const std::string name = t.filename().string();
-    CheckReplaceable(t);
+    const std::optional<mode_t> mode = CheckReplaceable(t);
     std::string staged;
     if (const Entry* e = FindNoCase(name); e && e->target == name)
         staged = e->staged;
@@ -257,11 +273,11 @@ void StagingArea::Stage(const std::string& target, std::string_view bytes)
     if (fresh)
         staged = StagedPrefix(tag_) + std::to_string(entries_.size() + 1) + ".staged";
     const std::string stagedPath = (fs::path(folder_) / staged).string();
-    std::error_code ec;
     // A file staged twice is simply written again: it replaces nothing yet.
-    fs::remove(stagedPath, ec);
+    if (!fresh)
+        ::unlink(stagedPath.c_str());
     // No flush here: the whole run is flushed by one sync of the file system.
-    WriteReplacement(stagedPath, t, bytes, false);
+    WriteReplacement(stagedPath, t, bytes, false, mode);
     if (fresh) {
         std::string key = name;
         for (char& c : key)
