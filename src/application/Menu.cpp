@@ -95,39 +95,30 @@ constexpr std::pair<const char*, const char*> kOpciones[] = {
 
 const std::vector<std::pair<std::string, std::vector<ComandoElemento>>>& FamiliasMenu()
 {
-    static const std::vector<std::pair<std::string, std::vector<ComandoElemento>>> familias = {
-        {"Hormigon",
-         {{"VigasH", "Vigas", "HVIG"},
-          {"VigasHR", "Vigas Regulares", "HVIR"},
-          {"PilaresH", "Pilares", "HPIL"},
-          {"Forjado_Unidireccional", "Forjado Unidireccional", "FORU"},
-          {"mnuForjSitu", "Forjado in situ", "FORS"},
-          {"Forjado_Reticular", "Forjado Reticular", "FORR"},
-          {"mnuForjMacizo", "Placa maciza", "FORP"},
-          {"Abacos", "Ábacos", "ABAC"},
-          {"Mensula", "Ménsula Corta", "HMEN"},
-          {"Vigapared", "Viga Pared", "HVPR"},
-          {"mnuEscal", "Escaleras", "ESCH"},
-          {"mnuHormig", "Características Mecánicas", "frmHormigon"}}},
-        {"Acero",
-         {{"mnuVigMet", "", "AVIG"},
-          {"mnuPilMet", "", "APIL"},
-          {"mnuBasMet", "", "ABAS"},
-          {"mnuForjAcer", "", "FORA"},
-          {"mnuEscMet", "", "ESCA"}}},
-        {"Madera", {{"mnuVigMade", "", "MVIG"}, {"mnuPilMade", "", "MPIL"}, {"mnuForMade", "", "FORM"}, {"mnuEscMade", "", "ESCM"}}},
-        {"Fabrica", {{"mnuMuros", "", "MURF"}, {"mnuMDint", "", "MDIN"}, {"mnuMCerr", "", "MURC"}}},
-        {"Cimentacion",
-         {{"mnuSuelo", "", "TERR"},
-          {"mnuZap", "", "ZAIS"},
-          {"mnuZapComb", "", "ZACB"},
-          {"mnuZapCorr", "", "ZACR"},
-          {"mnuPilotes", "", "ZPIL"},
-          {"mnuMuroH", "", "MUSO"},
-          {"mnuMuroCont", "", "MUCO"},
-          {"mnuMuroAnclado", "", "MUAN"},
-          {"mnuTalud", "", "TALU"}}},
-    };
+    // The element menus in the order of the menu bar; each form's definition says where its
+    // command stands. The concrete menu ends with the concrete properties, which is no element.
+    static const std::vector<std::pair<std::string, std::vector<ComandoElemento>>> familias = [] {
+        std::vector<std::pair<std::string, std::vector<ComandoElemento>>> out;
+        for (const char* grupo : {"Hormigon", "Acero", "Madera", "Fabrica", "Cimentacion"}) {
+            std::vector<std::pair<int, ComandoElemento>> comandos;
+            for (const TablaForm& t : TablasCampos())
+                if (t.menu.grupo == grupo) {
+                    const int fila = FilaDeCatalogo(t.nombre);
+                    comandos.push_back({t.menu.orden,
+                                        {std::string(t.menu.item), std::string(t.menu.caption),
+                                         fila < 0 ? std::string() : Catalogo()[static_cast<size_t>(fila)].menu}});
+                }
+            std::sort(comandos.begin(), comandos.end(),
+                      [](const auto& a, const auto& b) { return a.first < b.first; });
+            std::vector<ComandoElemento> items;
+            for (auto& [orden, c] : comandos)
+                items.push_back(std::move(c));
+            if (std::string_view(grupo) == "Hormigon")
+                items.push_back({"mnuHormig", "Características Mecánicas", "frmHormigon"});
+            out.push_back({grupo, std::move(items)});
+        }
+        return out;
+    }();
     return familias;
 }
 

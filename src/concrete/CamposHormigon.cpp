@@ -43,7 +43,8 @@ const std::vector<TablaForm>& TablasHormigon()
          // The first match wins: a form's own list stands before the group it overrides.
          ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon})},
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}),
+         MenuDef{"Hormigon", 1, "VigasH", "Vigas"}},
         {"frmVigRegHorm", {
             {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAmbGral", {}, kLista},
@@ -80,7 +81,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kTx, "txtMom", -1, "Momento"},
              {kTx, "txtCor", -1, "Cortante"},
              {kTx, "txtGiro", -1, "Giro"},
-         })},
+         }),
+         MenuDef{"Hormigon", 2, "VigasHR", "Vigas Regulares"}},
         {"frmPilHorm", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -95,7 +97,8 @@ const std::vector<TablaForm>& TablasHormigon()
          "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar,
          ListasPilar() + ListasHormigon(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPilarHormigon})},
+         Visibles({EtiquetasPilar, EtiquetasPilarHormigon}),
+         MenuDef{"Hormigon", 3, "PilaresH", "Pilares"}},
         {"frmForjUnid", {
             {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
             {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -151,7 +154,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kOp, "OpAncho", -1, "Opción de ancho #"},
              {kTx, "txtBeta", -1, "Coeficiente β"},
              {kTx, "Text1", -1, "Texto auxiliar"},
-         })},
+         }),
+         MenuDef{"Hormigon", 4, "Forjado_Unidireccional", "Forjado Unidireccional"}},
         {"frmForjSitu", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista},
@@ -175,7 +179,8 @@ const std::vector<TablaForm>& TablasHormigon()
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros, true,
          Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga}, {
              {kTx, "txtV", -1, "Valor auxiliar #"},
-         })},
+         }),
+         MenuDef{"Hormigon", 5, "mnuForjSitu", "Forjado in situ"}},
         {"frmForjRet", {
             {"txtMf", {9, 10, 11, 6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto}, {"UCMall", {0}, kMallazo}, {"cmbTipoFor", {}, kLista},
             {"txtForj", {0, 1, 2, 3, 4, 10, 11, 12, 13, 5, 6, 7, 8, 9}, kTexto, {"10", "70", "25", "5", "30", "6.00", "6.00", "1.20"}},
@@ -204,7 +209,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kTx, "txtForj", 2, "Dimensión forjado 2 (cm)"},
              {kTx, "txtForj", 3, "Dimensión forjado 3 (cm)"},
              {kTx, "txtForj", 4, "Canto total (cm)"},
-         })},
+         }),
+         MenuDef{"Hormigon", 6, "Forjado_Reticular", "Forjado Reticular"}},
         {"frmForMaci", {
             {"txtMf", {11, 10, 9, 8, 7, 6, 5, 4, 3, 0, 1, 2}, kTexto}, {"UCMall", {0}, kMallazo}, {"TxtCanto", {}, kTexto, {"20"}},
             {"txtTitulo", {}, kTexto},
@@ -227,7 +233,8 @@ const std::vector<TablaForm>& TablasHormigon()
          {Magnitud::LinealKg}, Despacho::Registros, true,
          Visibles({EtiquetasLosaBandas}, {
              {kTx, "TxtCanto", -1, "Canto (cm)"},
-         })},
+         }),
+         MenuDef{"Hormigon", 7, "mnuForjMacizo", "Placa maciza"}},
         {"frmAbaco", {
             {"CmbPlanta", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
             {"CmbHorm", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -278,7 +285,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kTx, "TxtRes1", -1, "Bielas"},
              {kTx, "TxtRes2", -1, "Punzonam."},
              {kTx, "TxtRes3", -1, "Cortante"},
-         })},
+         }),
+         MenuDef{"Hormigon", 8, "Abacos", "Ábacos"}},
         {"frmMensCorta", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {3, 2, 0, 1}, kTexto}, {"UCArmPrinc", {}, kNumDiam}, {"UCArmCercos", {}, kNumDiam}, {"UCArmColgar", {}, kNumDiam},
@@ -318,7 +326,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kTx, "txCuelgue", -1, "Armadura cuelgue"},
              {kTx, "TxCercos", -1, "Armadura cercos"},
              {kTx, "TxArmado", -1, "Armadura principal"},
-         })},
+         }),
+         MenuDef{"Hormigon", 9, "Mensula", "Ménsula Corta"}},
         {"frmVigPared", {
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
             {"CmbPlanta", {}, kLista}, {"txtDat2", {}, kTexto, {"500"}}, {"TxtRes3", {}, kTexto}, {"TxtRes1", {}, kTexto},
@@ -356,7 +365,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kTx, "TxtRes1", -1, "Bielas"},
              {kTx, "TxtRes2", -1, "Aramduras"},
              {kTx, "TxtRes3", -1, "Mallazo"},
-         })},
+         }),
+         MenuDef{"Hormigon", 10, "Vigapared", "Viga Pared"}},
         {"frmEscHorm", {
             {"TxtRes1", {0, 1}, kTexto}, {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbRecub", {}, kLista},
             {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista}, {"OptLosa", {2, 1, 3, 0}, kOpcion},
@@ -391,7 +401,8 @@ const std::vector<TablaForm>& TablasHormigon()
              {kNd, "UCNumDiamRampa", -1, "Barras rampa"},
              {kTx, "TxtRes1", 0, "Flector"},
              {kTx, "TxtRes1", 1, "Cortante"},
-         })},
+         }),
+         MenuDef{"Hormigon", 11, "mnuEscal", "Escaleras"}},
     };
     return tablas;
 }

@@ -94,10 +94,21 @@ enum class Magnitud { Ninguna, Fuerza, Lineal, Momento, Superficie, LinealKg, Su
 // record of its List1 once per run, or one save for each file of its code met.
 enum class Despacho { Ninguno, Registros, UnaVezPorArchivo };
 
+// The command that opens a form from the main window's menu bar: the menu it stands in, its
+// place there (from 1), the item's control and its caption ("" for the catalogue label of the
+// form's row). Its menu code is that of the form's catalogue row.
+struct MenuDef {
+    std::string_view grupo;
+    int orden = 0;
+    std::string_view item;
+    std::string_view caption;
+};
+
 // The definition of a form: its name, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
 // defaults, the minimums its check compares, the rows of its lists, what each of its load
-// fields holds, how the conversion serves it, and what its window shows besides.
+// fields holds, how the conversion serves it, what its window shows besides, and the menu
+// command that opens it.
 struct TablaForm {
     std::string_view nombre;  // "frmZapCorr"; its code is that of its catalogue row
     std::vector<CampoDef> campos;
@@ -113,6 +124,7 @@ struct TablaForm {
     // The shown controls (frames, labels, buttons, pictures) with their captions, and the
     // captions of its fields: those of its families first, then its own.
     std::vector<ControlVisible> visibles;
+    MenuDef menu = {};  // no command for a form the menu does not open
 };
 
 

@@ -52,7 +52,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kCk, "CheckS", -1, "Hueco superior"},
              {kTx, "TxtRes1", -1, "Centro"},
              {kTx, "TxtRes2", -1, "Extremo"},
-         })},
+         }),
+         MenuDef{"Fabrica", 1, "mnuMuros", ""}},
         {"frmMCerr", {
             {"TxtQ", {3}, kTexto, {"0.05"}}, {"txtTitulo", {}, kTexto}, {"OptCab", {2, 1, 0}, kOpcion}, {"OptBase", {0, 1}, kOpcion},
             {"OptIzq", {1, 0}, kOpcion}, {"OptDer", {0, 1}, kOpcion}, {"OptCalc", {1, 0}, kOpcion},
@@ -91,7 +92,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxCatEjec", -1, "Categoría de ejecución"},
              {kCb, "CmbFMort", -1, "Mortero"},
              {kCb, "CmbFMat", -1, "Material de las piezas"},
-         })},
+         }),
+         MenuDef{"Fabrica", 3, "mnuMCerr", ""}},
         {"frmMDint", {
             {"TxtRes1", {2, 1, 0}, kTexto}, {"CmbDintel", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista},
             {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
@@ -119,7 +121,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtRes1", 0, "Flector"},
              {kTx, "TxtRes1", 1, "Cortante"},
              {kTx, "TxtRes1", 2, "Fábrica"},
-         })},
+         }),
+         MenuDef{"Fabrica", 2, "mnuMDint", ""}},
         {"frmSuelo", {
             {"txtV", {}, kTexto, {"250"}}, {"txtHy", {}, kTexto, {"0"}}, {"txtIg", {}, kTexto, {"1.00"}},
             {"txtIq", {}, kTexto, {"1.00"}}, {"txtIc", {}, kTexto, {"1.00"}}, {"txtHx", {}, kTexto, {"0"}},
@@ -240,7 +243,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "txtTaServ", -1, "Presión de servicio granular, sin redondear"},
              {kTx, "txtTadm", -1, "Tensión admisible de hundimiento (kN/m2)"},
              {kTx, "txtServ", -1, "Tensión admisible de servicio (kN/m2)"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 1, "mnuSuelo", ""}},
         {"frmZap", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {1, 5, 4, 3, 2, 0}, kTexto}, {"txtTitulo", {}, kTexto}, {"chkRiostra", {}, kCasilla}, {"Check1", {}, kCasilla},
@@ -273,7 +277,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 6, "N"}, {kTx, "TxtQ", 7, "Mx"}, {kTx, "TxtQ", 8, "My"},
              {kTx, "TxtQ", 9, "N"}, {kTx, "TxtQ", 10, "Mx"}, {kTx, "TxtQ", 11, "My"},
              {kTx, "TxtQ", 12, "Tensión admisible terreno"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 2, "mnuZap", ""}},
         {"frmZapComb", {
             {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
             {"TxtRes1", {2, 0, 1}, kTexto}, {"Check1", {}, kCasilla}, {"TxtQ", {4}, kTexto, {"2.5"}}, {"UCArmZap", {2, 3, 0, 1}, kZapatas},
@@ -287,7 +292,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          Visibles({EtiquetasZapata}, {
              {kTx, "TxCota", -1, "Cota (cm)"},
              {kTx, "TxtQ", 4, "Tensión admisible terreno"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}},
         {"frmZapCorr", {
             {"Check1", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}}, {"UCArmZap", {0, 1}, kZapatas}, {"OpTipoMuro", {1, 0}, kOpcion},
             {"TxtQ", {0, 1}, kTexto, {"40", "0"}}, {"TxCotaMuro", {}, kTexto, {"30"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
@@ -306,7 +312,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 0, "Carga axil N"},
              {kTx, "TxtQ", 1, "Momento M"},
              {kTx, "TxtQ", 2, "Tensión admisible terreno"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 4, "mnuZapCorr", ""}},
         {"frmPilotes", {
             {"txtQadm", {}, kTexto}, {"CmbApoyo", {}, kLista}, {"ChNF", {}, kCasilla}, {"CmbEstratos", {}, kLista},
             {"TxtLongPil", {}, kTexto, {"12"}}, {"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}},
@@ -374,7 +381,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kCk, "ChRiostra", -1, "Riostra #"},
              {kTx, "TxtLong", -1, "Longitud riostra # (m)"},
              {kNd, "UCViga", -1, "Armadura de riostra"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 5, "mnuPilotes", ""}},
         {"frmMuroH", {
             {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
             {"Text1", {}, kTexto, {"30"}}, {"OptDelta", {2, 1, 0}, kOpcion}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
@@ -393,7 +401,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}, Despacho::Registros, true,
          Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMuroDePlantas}, {
              {kTx, "TxtQ", 3, "Carga coronación"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 6, "mnuMuroH", ""}},
         {"frmMuroCont", {
             {"cmbTipo", {}, kLista}, {"ChkMortero", {}, kCasilla}, {"TxtDensFabr", {}, kTexto, {"2600"}},
             {"TxCoefAcc", {}, kTexto, {"1.70"}}, {"TxtQ", {5}, kTexto, {"90"}}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
@@ -431,7 +440,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtCotaTacon", -1, "Canto del tacón (cm)"},
              {kTx, "TxtCotaSuelo", -1, "Altura del suelo delantero (cm)"},
              {kTx, "TxtQ", 3, "Carga coronación"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 7, "mnuMuroCont", ""}},
         {"frmMuroAnclado", {
             {"TxtQ", {4}, kTexto, {"40"}}, {"txtAng", {0}, kTexto, {"25"}}, {"TxtSep", {0, 1}, kTexto, {"300"}},
             {"txtAng", {1}, kTexto, {"25"}}, {"TxtQ", {5}, kTexto, {"40"}}, {"TxtSep", {2}, kTexto, {"300"}},
@@ -467,7 +477,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 7, "Tensión anclaje 4"},
              {kTx, "txtAng", -1, "Ángulo anclaje (º)"},
              {kTx, "TxtSep", -1, "Separación anclajes (cm)"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 8, "mnuMuroAnclado", ""}},
         {"frmTalud", {
             {"TxtQ", {1}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1800"}},
             {"CmbTalud", {}, kLista}, {"TxtRes1", {0}, kTexto}, {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto},
@@ -494,7 +505,8 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kCk, "chkEstrato", -1, "Estrato superficial duro"},
              {kTx, "txCuelgue", -1, "Resultado 1"},
              {kTx, "TxCercos", -1, "Resultado 2"},
-         })},
+         }),
+         MenuDef{"Cimentacion", 9, "mnuTalud", ""}},
     };
     return tablas;
 }

@@ -33,7 +33,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga})},
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}),
+         MenuDef{"Acero", 1, "mnuVigMet", ""}},
         {"frmPilMet", {
             {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
             {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -48,7 +49,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo})},
+         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}),
+         MenuDef{"Acero", 2, "mnuPilMet", ""}},
         {"frmBasMet", {
             {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
             {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
@@ -79,7 +81,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kTx, "TxtRes1", 0, "Pernos"},
              {kTx, "TxtRes1", 1, "Chapa"},
              {kTx, "TxtRes1", 2, "Cartelas"},
-         })},
+         }),
+         MenuDef{"Acero", 3, "mnuBasMet", ""}},
         {"frmForjAcer", {
             {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
@@ -95,7 +98,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros, true,
          Visibles({EtiquetasForjadoLigero, EtiquetasContinuidad, EtiquetasResultadosAcero}, {
              {kCk, "ChInclinado", -1, "Correas"},
-         })},
+         }),
+         MenuDef{"Acero", 4, "mnuForjAcer", ""}},
         {"frmEscMet", {
             {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
             {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
@@ -116,7 +120,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kOp, "OptLosa", 1, "De 1 tramo con descanso"},
              {kOp, "OptLosa", 2, "De 2 tramos"},
              {kOp, "OptLosa", 3, "Rampa"},
-         })},
+         }),
+         MenuDef{"Acero", 5, "mnuEscMet", ""}},
         {"frmVigMade", {
             {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
             {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
@@ -137,7 +142,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kTx, "TextDviga", -1, "Sección"},
              {kTx, "TextDviga", 0, "Ancho b (cm)"},
              {kTx, "TextDviga", 1, "Canto h (cm)"},
-         })},
+         }),
+         MenuDef{"Madera", 1, "mnuVigMade", ""}},
         {"frmPilMade", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
@@ -156,7 +162,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          Visibles({EtiquetasPilar, EtiquetasPandeo}, {
              {kTx, "txtTramo", -1, "Dimensión (cm)"},
              {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
-         })},
+         }),
+         MenuDef{"Madera", 2, "mnuPilMade", ""}},
         {"frmForMade", {
             {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
@@ -179,7 +186,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kCk, "ChInclinado", -1, "Forjado inclinado"},
              {kTx, "TextDviga", 0, "Ancho vigueta b (cm)"},
              {kTx, "TextDviga", 1, "Canto vigueta h (cm)"},
-         })},
+         }),
+         MenuDef{"Madera", 3, "mnuForMade", ""}},
         {"frmEscMade", {
             {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
             {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
@@ -187,7 +195,8 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {true, true, PasoComprobacion::Bandera, true},
          "Escalera de Madera", "Escalera Madera 01", kNada, kNada,
          ListasMadera(),
-         {}},
+         {}, Despacho::Ninguno, true, {},
+         MenuDef{"Madera", 4, "mnuEscMade", ""}},
     };
     return tablas;
 }

@@ -76,13 +76,19 @@ std::string CodigoDeForm(Declaraciones& d, std::string_view formName)
     Halt("form " + std::string(formName) + " has no row in the element catalogue");
 }
 
-std::string_view CodigoEnCatalogo(std::string_view formName)
+int FilaDeCatalogo(std::string_view formName)
 {
     // Row 0 is the main window, which shares the general data's code.
     for (const auto& r : Catalogo())
         if (r.row > 0 && SameNameNoCase(r.form, formName))
-            return r.code;
-    return {};
+            return r.row;
+    return -1;
+}
+
+std::string_view CodigoEnCatalogo(std::string_view formName)
+{
+    const int fila = FilaDeCatalogo(formName);
+    return fila < 0 ? std::string_view() : std::string_view(Catalogo()[static_cast<size_t>(fila)].code);
 }
 
 int FilaDeMenu(std::string_view menuCode)

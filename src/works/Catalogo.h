@@ -27,6 +27,9 @@ void LlenaCatalogo(Declaraciones& d);
 std::string CodigoDeForm(Declaraciones& d, std::string_view formName);
 // The code of a form's catalogue row, compared without regard to case; "" for a form without one.
 std::string_view CodigoEnCatalogo(std::string_view formName);
+// Catalogue row of a form, compared without regard to case, or -1; row 0 (the main window) is
+// never given.
+int FilaDeCatalogo(std::string_view formName);
 // Catalogue row of a menu code, or -1.
 int FilaDeMenu(std::string_view menuCode);
 

@@ -188,6 +188,31 @@ TEST(Menu, ElementCommandsCloseTheWindowWithTheirCode)
     EXPECT_TRUE(salir.menu.PideCierre());
 }
 
+// The element menus as the menu bar shows them, written out by hand: menu, item, caption ("" for the
+// catalogue label) and menu code, in order.
+TEST(Menu, ElementMenusHoldTheirCommandsInOrder)
+{
+    const std::string esperado =
+        "Hormigon: VigasH Vigas HVIG; VigasHR Vigas Regulares HVIR; PilaresH Pilares HPIL; "
+        "Forjado_Unidireccional Forjado Unidireccional FORU; mnuForjSitu Forjado in situ FORS; "
+        "Forjado_Reticular Forjado Reticular FORR; mnuForjMacizo Placa maciza FORP; Abacos Ábacos ABAC; "
+        "Mensula Ménsula Corta HMEN; Vigapared Viga Pared HVPR; mnuEscal Escaleras ESCH; "
+        "mnuHormig Características Mecánicas frmHormigon; \n"
+        "Acero: mnuVigMet  AVIG; mnuPilMet  APIL; mnuBasMet  ABAS; mnuForjAcer  FORA; mnuEscMet  ESCA; \n"
+        "Madera: mnuVigMade  MVIG; mnuPilMade  MPIL; mnuForMade  FORM; mnuEscMade  ESCM; \n"
+        "Fabrica: mnuMuros  MURF; mnuMDint  MDIN; mnuMCerr  MURC; \n"
+        "Cimentacion: mnuSuelo  TERR; mnuZap  ZAIS; mnuZapComb  ZACB; mnuZapCorr  ZACR; mnuPilotes  ZPIL; "
+        "mnuMuroH  MUSO; mnuMuroCont  MUCO; mnuMuroAnclado  MUAN; mnuTalud  TALU; \n";
+    std::string visto;
+    for (const auto& [familia, comandos] : FamiliasMenu()) {
+        visto += familia + ":";
+        for (const ComandoElemento& c : comandos)
+            visto += " " + c.item + " " + c.caption + " " + c.codigo + ";";
+        visto += " \n";
+    }
+    EXPECT_EQ(visto, esperado);
+}
+
 TEST(Menu, EveryElementCommandOpensAFormThatExists)
 {
     TestApp app;
