@@ -359,17 +359,6 @@ std::string Preflight(const Declaraciones& d, const std::vector<std::string>& na
     return {};
 }
 
-std::string NewTag()
-{
-    std::random_device rd;
-    std::mt19937_64 rng(rd());
-    static const char* hex = "0123456789abcdef";
-    std::string tag;
-    for (int i = 0; i < 10; ++i)
-        tag += hex[rng() % 16];
-    return tag;
-}
-
 // The commit order: every record first, the general data last, so that a work whose renames
 // stopped half-way still reads as not converted.
 std::vector<StagingArea::Entry> CommitOrder(std::vector<StagingArea::Entry> entries)
@@ -424,26 +413,29 @@ ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const
         return log;
     };
     // One writer at a time.
-    std::optional<WorkLock> ownLock;
-    if (!options.lock) {
-        try {
-            ownLock = WorkLock::Try(d.CarpetaObra);
-        } catch (const FileError& e) {
-            return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
-        }
-        if (!ownLock)
-            return stop(ConversionLog::End::Busy, Mensaje(d, 1400, {d.CarpetaObra}));
+    std::optional<WorkLock> lock;
+    try {
+        lock = WorkLock::Try(d.CarpetaObra);
+    } catch (const FileError& e) {
+        return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
     }
+    if (!lock)
+        return stop(ConversionLog::End::Busy, Mensaje(d, 1400, {d.CarpetaObra}));
     if (const std::string why = Preflight(d, list2); !why.empty())
         return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, why}));
 
     Diario diario;
-    diario.tag = NewTag();
+    diario.tag = RandomHex(10);
     try {
         EscribeDiario(d.CarpetaObra, diario);
     } catch (const FileError& e) {
         return stop(ConversionLog::End::Refused, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
     }
+    // Whatever stops the run throws away what it staged: the work is as it was.
+    auto rollBack = [&](const std::string& why) {
+        BorraDiario(d.CarpetaObra);
+        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, why}));
+    };
     d.UltimoErrorDatos.clear();
     try {
         StagingArea area(d.CarpetaObra, diario.tag);
@@ -455,14 +447,11 @@ ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const
         EscribeDiario(d.CarpetaObra, diario);
         area.Release();
     } catch (const ProgramHalt& e) {
-        BorraDiario(d.CarpetaObra);
-        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
+        return rollBack(e.what());
     } catch (const FileError& e) {
-        BorraDiario(d.CarpetaObra);
-        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, e.what()}));
+        return rollBack(e.what());
     } catch (const RunStopped& e) {
-        BorraDiario(d.CarpetaObra);
-        return stop(ConversionLog::End::RolledBack, Mensaje(d, 1401, {d.CarpetaObra, e.why}));
+        return rollBack(e.why);
     }
     try {
         CommitStaged(d.CarpetaObra, diario.entries);
@@ -478,18 +467,29 @@ ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const
     return log;
 }
 
+std::string CopiaNoAdmitida(const Declaraciones& d, const std::vector<std::string>& works, const std::string& destFolder)
+{
+    std::error_code ec;
+    const fs::path dest = fs::weakly_canonical(fs::absolute(destFolder), ec);
+    if (fs::exists(dest, ec) || fs::is_symlink(dest, ec))
+        return Mensaje(d, 1416, {dest.string()});
+    // A copy inside a work would copy itself until names grow too long.
+    for (const auto& w : works) {
+        const fs::path src = fs::weakly_canonical(fs::absolute(w), ec);
+        if (std::mismatch(src.begin(), src.end(), dest.begin(), dest.end()).first == src.end())
+            return Mensaje(d, 1415, {dest.string()});
+    }
+    return {};
+}
+
 std::string CopiaDeSeguridad(const Declaraciones& d, const std::string& workFolder, const std::string& destFolder)
 {
     std::error_code ec;
     const fs::path src = fs::weakly_canonical(fs::absolute(workFolder), ec);
     const fs::path dest = fs::weakly_canonical(fs::absolute(destFolder), ec);
     auto refuse = [&](const std::string& why) { return FileError(dest.string(), Mensaje(d, 1414, {why})); };
-    // A copy inside the work would copy itself until names grow too long.
-    const auto [srcEnd, destAt] = std::mismatch(src.begin(), src.end(), dest.begin(), dest.end());
-    if (srcEnd == src.end())
-        throw refuse(Mensaje(d, 1415, {dest.string()}));
-    if (fs::exists(dest, ec) || fs::is_symlink(dest, ec))
-        throw refuse(Mensaje(d, 1416, {dest.string()}));
+    if (const std::string why = CopiaNoAdmitida(d, {workFolder}, destFolder); !why.empty())
+        throw refuse(why);
     fs::create_directories(dest.parent_path(), ec);
     bool created = false;
     try {

@@ -59,8 +59,6 @@ struct ConversionOptions {
     std::function<void(int done, const std::string& what)> progress;
     // Asked between records; true stops the run, which then throws away what it staged.
     std::function<bool()> cancelled;
-    // The writer's lock of the work, when the caller holds it already; otherwise the run takes it.
-    const class WorkLock* lock = nullptr;
 };
 
 // The longest line a record of version 3 can hold; a longer line marks a file that is not one.
@@ -80,6 +78,9 @@ bool SeRecorreEntero(const std::string& code);  // records kind: the whole List1
 // loaded or written: the log says what the run would do.
 ConversionLog Convierte(Declaraciones& d, std::vector<std::string>& list2, const ConversionOptions& options = {});
 
+// Why a backup into `destFolder` is refused, as a phrase in the user's language: the folder
+// exists already, or it lies inside one of `works` (or is one). "" when it is admitted.
+std::string CopiaNoAdmitida(const Declaraciones& d, const std::vector<std::string>& works, const std::string& destFolder);
 // Copies the whole work folder to `destFolder`, which must not exist yet and must lie outside
 // the work; a copy that fails half-way is removed. Throws FileError with a sentence in the
 // user's language.

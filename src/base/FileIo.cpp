@@ -89,15 +89,6 @@ StagingArea* StagingFor(const std::string& path)
 
 std::string ErrnoText(int err) { return err ? std::string(": ") + std::strerror(err) : std::string(); }
 
-std::string RandomHex(int digits)
-{
-    static std::mt19937_64 rng{std::random_device{}()};
-    static const char* hex = "0123456789abcdef";
-    std::string s;
-    for (int i = 0; i < digits; ++i)
-        s += hex[rng() % 16];
-    return s;
-}
 
 // A read-only or folder target is refused before anything is written for it. Returns the mode
 // of the file it replaces, or nothing when there is none yet (one look at the disk for both).
@@ -248,10 +239,7 @@ std::optional<std::string> StagingArea::StagedFor(const std::string& target) con
 
 const StagingArea::Entry* StagingArea::FindNoCase(std::string_view name) const
 {
-    std::string key(name);
-    for (char& c : key)
-        c = Lower(c);
-    auto it = byName_.find(key);
+    auto it = byName_.find(LowerKey(name));
     return it == byName_.end() ? nullptr : &entries_[it->second];
 }
 
@@ -279,10 +267,7 @@ void StagingArea::Stage(const std::string& target, std::string_view bytes)
     // No flush here: the whole run is flushed by one sync of the file system.
     WriteReplacement(stagedPath, t, bytes, false, mode);
     if (fresh) {
-        std::string key = name;
-        for (char& c : key)
-            c = Lower(c);
-        byName_.emplace(std::move(key), entries_.size());
+        byName_.emplace(LowerKey(name), entries_.size());
         entries_.push_back({staged, name});
     }
 }
@@ -452,6 +437,29 @@ std::vector<std::string> SplitLines(std::string_view text)
     if (!cur.empty())
         lines.push_back(cur);
     return lines;
+}
+
+std::string RandomHex(int digits)
+{
+    static std::mt19937_64 rng{std::random_device{}()};
+    static const char* hex = "0123456789abcdef";
+    std::string s;
+    for (int i = 0; i < digits; ++i)
+        s += hex[rng() % 16];
+    return s;
+}
+
+std::string LowerKey(std::string_view name)
+{
+    std::string key(name);
+    for (char& c : key)
+        c = Lower(c);
+    return key;
+}
+
+bool StartsWithNoCase(std::string_view s, std::string_view prefix)
+{
+    return s.size() >= prefix.size() && SameNameNoCase(s.substr(0, prefix.size()), prefix);
 }
 
 bool SameNameNoCase(std::string_view a, std::string_view b)

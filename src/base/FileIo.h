@@ -53,6 +53,12 @@ std::vector<std::string> SplitLines(std::string_view text);
 
 // Case-insensitive file name comparison, as the file system of version 3 compared names.
 bool SameNameNoCase(std::string_view a, std::string_view b);
+// Whether `s` begins with `prefix`, compared in the same way.
+bool StartsWithNoCase(std::string_view s, std::string_view prefix);
+// A name in lower case, the key under which names compared without regard to case are kept.
+std::string LowerKey(std::string_view name);
+// A random text of hexadecimal digits, for the names of the program's temporary files.
+std::string RandomHex(int digits);
 // Finds `name` inside `folder` without regard to case; nullopt when there is none.
 std::optional<std::string> FindNoCase(const std::string& folder, std::string_view name);
 

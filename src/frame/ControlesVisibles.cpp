@@ -373,11 +373,6 @@ const std::vector<ControlVisible>& EtiquetasFabrica()
 // own row has the last word.
 namespace {
 
-bool EmpiezaPorNoCase(std::string_view s, std::string_view prefijo)
-{
-    return s.size() >= prefijo.size() && SameNameNoCase(s.substr(0, prefijo.size()), prefijo);
-}
-
 // The controls of the form that a row names: the control itself; for a row of index -1, every
 // member of the array of that name; for a name ending in "*", every control beginning so.
 std::vector<Control*> Destinos(const Form& form, const ControlVisible& v)
@@ -385,7 +380,7 @@ std::vector<Control*> Destinos(const Form& form, const ControlVisible& v)
     if (!v.nombre.empty() && v.nombre.back() == '*') {
         std::vector<Control*> out;
         for (Control* c : form.Controls())
-            if (EmpiezaPorNoCase(c->Name(), v.nombre.substr(0, v.nombre.size() - 1)))
+            if (StartsWithNoCase(c->Name(), v.nombre.substr(0, v.nombre.size() - 1)))
                 out.push_back(c);
         return out;
     }

@@ -19,11 +19,6 @@ const std::set<std::string, std::less<>> kMateriales = {"CmbHorm",  "CmbAcero", 
 // Unit labels stand beside the load field of their index.
 const std::set<std::string, std::less<>> kUnidades = {"LbQSI", "lbST", "lbSI"};
 
-bool EmpiezaPor(const std::string& s, std::string_view prefijo)
-{
-    return s.size() >= prefijo.size() && SameNameNoCase(s.substr(0, prefijo.size()), prefijo);
-}
-
 bool EsRefuerzo(Kind k) { return k == Kind::UCNumDiam || k == Kind::UCNumDiamSep || k == Kind::UCZapatas || k == Kind::UCMallazo; }
 
 // The heading of a control array: the caption that its row of index -1 gives, without the
@@ -74,7 +69,7 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
         const std::string& n = c->Name();
         if (kMarco.count(n) || kUnidades.count(n))
             continue;
-        if (EmpiezaPor(n, "TxtRes")) {
+        if (StartsWithNoCase(n, "TxtRes")) {
             resultados.miembros.push_back(c);
         } else if (n == "txtTitulo" || n == "CmbPlanta") {
             fijos[0].miembros.push_back(c);

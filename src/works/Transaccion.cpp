@@ -108,7 +108,7 @@ void BorraDiario(const std::string& folder)
     SyncFolder(folder);
 }
 
-Recuperacion RecuperaObra(const std::string& folder, const WorkLock* lock)
+Recuperacion RecuperaObra(const std::string& folder)
 {
     Recuperacion r;
     // Cheap look first: most works hold nothing of ours.
@@ -121,13 +121,10 @@ Recuperacion RecuperaObra(const std::string& folder, const WorkLock* lock)
     }
     if (propios.empty())
         return r;
-    std::optional<WorkLock> propio;
+    const std::optional<WorkLock> lock = WorkLock::Try(folder);
     if (!lock) {
-        propio = WorkLock::Try(folder);
-        if (!propio) {
-            r.resultado = Recuperacion::Resultado::Ocupada;
-            return r;
-        }
+        r.resultado = Recuperacion::Resultado::Ocupada;
+        return r;
     }
     // A lock file alone was left by a program that stopped while it held it: taking the lock
     // and letting it go removes it.

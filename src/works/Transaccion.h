@@ -45,8 +45,8 @@ struct Recuperacion {
 };
 
 // Finishes or throws away an interrupted conversion of `folder` and removes stray temporary
-// files, under the work's lock. `lock`, when given, is a lock the caller already holds.
-// Throws FileError when a leftover cannot be dealt with (the work is then left as it is).
-Recuperacion RecuperaObra(const std::string& folder, const WorkLock* lock = nullptr);
+// files, under the work's lock. Throws FileError when a leftover cannot be dealt with (the work is
+// then left as it is).
+Recuperacion RecuperaObra(const std::string& folder);
 
 }  // namespace vardena

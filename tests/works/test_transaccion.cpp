@@ -196,7 +196,7 @@ TEST_F(Recovery, AWorkAnotherProgramHoldsIsLeftAlone)
     EXPECT_TRUE(WorkLock::HeldHere(work));
     test::WriteBytes(work + "/.vardena-0123456789ab.tmp", "de otro");
     // What another program would see: a second lock is refused...
-    EXPECT_EQ(RecuperaObra(work, nullptr).resultado, Recuperacion::Resultado::Ocupada);
+    EXPECT_EQ(RecuperaObra(work).resultado, Recuperacion::Resultado::Ocupada);
     EXPECT_TRUE(fs::exists(work + "/.vardena-0123456789ab.tmp"));
     // ...and a conversion is refused by name, touching nothing.
     app.decl.CarpetaObra = work;

@@ -227,17 +227,10 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
     // before anything is copied or converted.
     std::string backupDir;
     if (!opt.backup.empty() && !opt.dryRun) {
-        namespace fs = std::filesystem;
+        if (const std::string why = CopiaNoAdmitida(d, works, opt.backup); !why.empty())
+            return Fail(Mensaje(d, 1414, {why}));
         std::error_code ec;
-        const fs::path dir = fs::weakly_canonical(fs::absolute(opt.backup), ec);
-        if (fs::exists(dir, ec) || fs::is_symlink(dir, ec))
-            return Fail(Mensaje(d, 1414, {Mensaje(d, 1416, {dir.string()})}));
-        for (const auto& w : works) {
-            const fs::path wp = fs::weakly_canonical(fs::absolute(w), ec);
-            if (std::mismatch(wp.begin(), wp.end(), dir.begin(), dir.end()).first == wp.end())
-                return Fail(Mensaje(d, 1414, {Mensaje(d, 1415, {dir.string()})}));
-        }
-        backupDir = dir.string();
+        backupDir = std::filesystem::weakly_canonical(std::filesystem::absolute(opt.backup), ec).string();
     }
     CatchStopSignals();
     int worst = kOk;
@@ -249,6 +242,7 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
         std::string json;
         // Each work starts from a fresh state, as when it is selected in the main window.
         Aplicacion fresh(app.decl.ui, std::make_unique<MemorySettings>(), app.decl.DirPrograma);
+        const size_t notConvertibleBefore = summary.leftAlone.size();
         int rc;
         try {
             rc = ConvertOne(fresh, w, opt, backupDir, json, summary);
@@ -259,8 +253,7 @@ int CmdConvert(Aplicacion& app, const std::vector<std::string>& args)
             rc = kFailure;
         }
         // In a folder of works, one that is not of version 3.00 or 3.01 is simply not taken.
-        const bool notConvertible = !summary.leftAlone.empty() && summary.leftAlone.back().first ==
-                                    std::filesystem::absolute(w).lexically_normal().string();
+        const bool notConvertible = summary.leftAlone.size() > notConvertibleBefore;
         if (!all.empty() && notConvertible && rc == kFailure) {
             rc = kOk;
             json.clear();

@@ -37,6 +37,8 @@
 #error "VARDENA_EXAMPLES must name the folder of the sample works"
 #endif
 
+#include "base/Codepage.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -49,84 +51,24 @@ struct FormatError {
 
 // ---- Windows-1252 ----
 
-// Code points of bytes 0x80-0x9F; 0 where the code page defines none.
-constexpr char32_t kHigh[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-                                0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-
-void AppendUtf8(std::string& out, char32_t cp)
-{
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else if (cp < 0x10000) {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (cp >> 18));
-        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
-
 // UTF-8 text of the test file to Windows-1252 bytes; nullopt when a character has no byte.
 std::optional<std::string> Utf8ToCp1252(const std::string& s)
 {
-    std::string out;
-    for (size_t i = 0; i < s.size();) {
-        const unsigned char c = s[i];
-        char32_t cp;
-        int len;
-        if (c < 0x80) {
-            cp = c, len = 1;
-        } else if ((c & 0xE0) == 0xC0) {
-            cp = c & 0x1F, len = 2;
-        } else if ((c & 0xF0) == 0xE0) {
-            cp = c & 0x0F, len = 3;
-        } else if ((c & 0xF8) == 0xF0) {
-            cp = c & 0x07, len = 4;
-        } else {
-            return std::nullopt;
-        }
-        if (i + len > s.size())
-            return std::nullopt;
-        for (int k = 1; k < len; ++k) {
-            const unsigned char cc = s[i + k];
-            if ((cc & 0xC0) != 0x80)
-                return std::nullopt;
-            cp = (cp << 6) | (cc & 0x3F);
-        }
-        i += len;
-        if (cp < 0x80 || (cp >= 0xA0 && cp <= 0xFF)) {
-            out += static_cast<char>(cp);
-            continue;
-        }
-        const char32_t* hit = std::find(std::begin(kHigh), std::end(kHigh), cp);
-        if (cp == 0 || hit == std::end(kHigh))
-            return std::nullopt;
-        out += static_cast<char>(0x80 + (hit - std::begin(kHigh)));
-    }
-    return out;
+    int lost = 0;
+    std::string bytes = vardena::Utf8ToCp1252(s, &lost);
+    if (lost > 0)
+        return std::nullopt;
+    return bytes;
 }
 
 // Windows-1252 bytes of a file to UTF-8 with "\n" line ends, for matching against the test's text.
 std::string DiskTextToUtf8(const std::string& bytes)
 {
+    const std::string utf8 = vardena::Cp1252ToUtf8(bytes);
     std::string out;
-    for (size_t i = 0; i < bytes.size(); ++i) {
-        const unsigned char c = bytes[i];
-        if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n')
-            continue;
-        if (c >= 0x80 && c <= 0x9F && kHigh[c - 0x80] != 0)
-            AppendUtf8(out, kHigh[c - 0x80]);
-        else
-            AppendUtf8(out, c);
-    }
+    for (size_t i = 0; i < utf8.size(); ++i)
+        if (!(utf8[i] == '\r' && i + 1 < utf8.size() && utf8[i + 1] == '\n'))
+            out += utf8[i];
     return out;
 }
 
