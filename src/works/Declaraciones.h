@@ -107,11 +107,30 @@ struct Declaraciones {
     float GenFactor = 0.04f;
     float GenFckHorm = 0;
 
+    // The building's actions, shared by the actions form and its three map dialogs: snow
+    // altitude (m) and zone row, wind zone row and terrain class, basic wind pressure (kN/m2),
+    // slenderness with its pressure and suction coefficients, the seismic ab/g, contribution,
+    // soil and risk coefficients, amplification, spectrum corner periods, fundamental period,
+    // damping (percent), the shown response coefficient and the calculation acceleration (g).
+    float AccAltNieve = 200;
+    int16_t AccZonaNieve = 0;
+    float AccZona = 0;
+    float AccEntorno = 4;
+    float AccQb = 0;
+    double AccEsbeltez = 0;
+    float AccCp = 0, AccCs = 0;
+    float AccAb = 0.04f, AccK = 1, AccC = 1, AccRo = 1;
+    float AccS = 0, AccTA = 0, AccTB = 0, AccTF = 0;
+    float AccOmega = 0, AccBeta = 0, AccAc = 0;
+
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();
 
     // One pass of the message loop, where a window system runs one; nothing headless.
     std::function<void()> DoEvents;
+    // Shows a dialog form modally and returns when it closes. Where no window system runs,
+    // the dialog closes at once with nothing chosen; scripts drive the dialogs on their own.
+    std::function<void(class Form&)> MuestraDialogo;
     // The capture of a form's image after a save, when the setting asks for one.
     std::function<void(class Form&, const std::string& recordPath)> Captura;
 
