@@ -104,6 +104,17 @@ struct MenuDef {
     std::string_view caption;
 };
 
+// A group of a form's window, in reading order: the frame control whose caption titles it
+// ("" for none) or else the message that does, and the controls it shows. A control array's
+// name brings every member in index order; "Name(i)" brings one member. Any kind may stand in
+// a declared group, a sketch or a result view as well as the fields. The controls a form's
+// groups leave out fall to the groups its kinds and names give (frame/GruposVentana.h).
+struct GrupoDef {
+    std::string_view marco;
+    int mensaje = 0;
+    std::span<const std::string_view> controles;
+};
+
 // The definition of a form: its name, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
 // defaults, the minimums its check compares, the rows of its lists, what each of its load
@@ -125,6 +136,7 @@ struct TablaForm {
     // captions of its fields: those of its families first, then its own.
     std::vector<ControlVisible> visibles;
     MenuDef menu = {};  // no command for a form the menu does not open
+    std::span<const GrupoDef> grupos = {};  // its window's own groups, first
 };
 
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/FileIo.h"
+#include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
 #include "works/Declaraciones.h"
 
@@ -35,6 +36,40 @@ std::string TituloDeArray(const Form& form, const std::string& nombre)
     return nombre;
 }
 
+// The groups that the form's definition declares, with the controls they take.
+std::vector<GrupoCampos> GruposDeclarados(const Form& form, std::set<const Control*>& tomados)
+{
+    std::vector<GrupoCampos> out;
+    const TablaForm* tabla = TablaCampos(form.Name());
+    if (!tabla)
+        return out;
+    for (const GrupoDef& def : tabla->grupos) {
+        GrupoCampos g;
+        const Control* marco = def.marco.empty() ? nullptr : form.Find(std::string(def.marco));
+        g.titulo = marco ? marco->Caption() : form.decl().Msg(def.mensaje);
+        for (std::string_view nombre : def.controles) {
+            int index = -1;
+            if (const size_t p = nombre.find('('); p != std::string_view::npos) {
+                index = std::stoi(std::string(nombre.substr(p + 1)));
+                nombre = nombre.substr(0, p);
+            }
+            std::vector<Control*> miembros;
+            for (Control* c : form.Controls())
+                if (c->Name() == nombre && (index < 0 || c->Index() == index) && !tomados.count(c))
+                    miembros.push_back(c);
+            std::stable_sort(miembros.begin(), miembros.end(),
+                             [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
+            for (Control* c : miembros) {
+                tomados.insert(c);
+                g.miembros.push_back(c);
+            }
+        }
+        if (!g.miembros.empty())
+            out.push_back(std::move(g));
+    }
+    return out;
+}
+
 }  // namespace
 
 std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g)
@@ -63,11 +98,13 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
                                       {d.Msg(1504), {}}};
     std::vector<GrupoCampos> familias;
     GrupoCampos armaduras{d.Msg(1505), {}}, perfiles{d.Msg(1506), {}}, ordenes{d.Msg(1507), {}};
+    std::set<const Control*> tomados;
+    std::vector<GrupoCampos> declarados = GruposDeclarados(form, tomados);
     const Control* marcoResultados = form.Find("UCframe2");
     GrupoCampos resultados{marcoResultados ? marcoResultados->Caption() : d.Msg(1508), {}};
     for (Control* c : form.Controls()) {
         const std::string& n = c->Name();
-        if (kMarco.count(n) || kUnidades.count(n))
+        if (tomados.count(c) || kMarco.count(n) || kUnidades.count(n))
             continue;
         if (StartsWithNoCase(n, "TxtRes")) {
             resultados.miembros.push_back(c);
@@ -105,7 +142,7 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
     for (GrupoCampos& g : familias)
         std::stable_sort(g.miembros.begin(), g.miembros.end(),
                          [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
-    std::vector<GrupoCampos> out;
+    std::vector<GrupoCampos> out = std::move(declarados);
     for (GrupoCampos& g : fijos)
         out.push_back(std::move(g));
     for (GrupoCampos& g : familias)

@@ -14,7 +14,8 @@ struct GrupoCampos {
     std::string titulo;
     std::vector<Control*> miembros;
 };
-// The data fields of an element form grouped for display: the element's identity, materials,
+// The data fields of an element form grouped for display: the groups its definition declares
+// first, then by kind and name: the element's identity, materials,
 // single data, lists and options, one group per control array, reinforcement, sections, and the
 // results last. Frame controls, unit labels and the designed captions and frames are left out.
 std::vector<GrupoCampos> AgrupaCampos(const Form& form);
