@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
 
 #include "works/Declaraciones.h"
 #include "base/FileIo.h"
@@ -10,9 +11,9 @@
 
 namespace vardena {
 
-const std::vector<CatalogRow>& Catalogo()
-{
-    static const std::vector<CatalogRow> rows = {
+namespace {
+
+constexpr CatalogRow kFilas[] = {
         {0, "CE", "MENU", 145, "", ""},
         {1, "CE", "DATOSGEN", 145, "DAGE", "Datos"},
         {2, "CK", "FRMACCIO", 145, "ACCI", "Datos"},
@@ -49,8 +50,41 @@ const std::vector<CatalogRow>& Catalogo()
         {33, "DP", "FRMDATOSPROY", 898, "DAPR", "Datos"},
         {34, "CS", "FRMSUELO", 1188, "TERR", "Cimentación"},
         {35, "MH", "FRMMCERR", 898, "MURC", "Fábrica"},
+};
+
+// What the rest of the program takes for granted of the catalogue, checked when it compiles:
+// every row stands at its number; from row 1 on, a code, a form and a menu code each name one
+// row, so that a code maps to one form and back; form names are upper case, as the contents
+// list and CodigoDeForm compare them.
+consteval bool CatalogoBienFormado()
+{
+    auto mayusculas = [](std::string_view s) {
+        for (char c : s)
+            if (c >= 'a' && c <= 'z')
+                return false;
+        return !s.empty();
     };
-    return rows;
+    constexpr size_t n = std::size(kFilas);
+    for (size_t i = 0; i < n; ++i) {
+        if (kFilas[i].row != static_cast<int>(i) || !mayusculas(kFilas[i].form) || std::string_view(kFilas[i].code).size() != 2)
+            return false;
+        for (size_t j = 1; j < i; ++j) {
+            if (std::string_view(kFilas[i].code) == kFilas[j].code || std::string_view(kFilas[i].form) == kFilas[j].form)
+                return false;
+            if (*kFilas[i].menu && std::string_view(kFilas[i].menu) == kFilas[j].menu)
+                return false;
+        }
+    }
+    return true;
+}
+static_assert(std::size(kFilas) == kCatalogRows, "the catalogue has one row for every element kind");
+static_assert(CatalogoBienFormado(), "every catalogue row stands at its number, and its code, form and menu code are its own");
+
+}  // namespace
+
+std::span<const CatalogRow> Catalogo()
+{
+    return kFilas;
 }
 
 void LlenaCatalogo(Declaraciones& d)

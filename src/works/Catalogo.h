@@ -2,6 +2,7 @@
 // The element catalogue, the work folder's contents list, the settings of the program and
 // the current work's location.
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,7 +21,7 @@ struct CatalogRow {
     const char* family;
 };
 // The 36 rows, in the order of the contents list.
-const std::vector<CatalogRow>& Catalogo();
+std::span<const CatalogRow> Catalogo();
 
 void LlenaCatalogo(Declaraciones& d);
 // The code of a form by its name; a form outside the catalogue shows message 180 and halts.
