@@ -5,7 +5,11 @@
 // told apart by index. Alongside, how each form goes through its life cycle (reads twice, sets
 // the loading guard, what kind of check call it makes, whether it asks before replacing).
 
+#include <array>
 #include <cstddef>
+#include <initializer_list>
+#include <span>
+#include <stdexcept>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,16 +32,100 @@ inline constexpr Kind kZapatas = Kind::UCZapatas;
 inline constexpr Kind kMallazo = Kind::UCMallazo;
 inline constexpr Kind kPerfil = Kind::UCPerfil;
 
+// A short list held in place, so that a definition can be a constant. More items than it
+// holds stop the build.
+template <typename T, size_t N>
+class ListaFija {
+public:
+    constexpr ListaFija() = default;
+    constexpr ListaFija(std::initializer_list<T> items)
+    {
+        for (const T& x : items)
+            push_back(x);
+    }
+    constexpr void push_back(const T& x)
+    {
+        if (n_ == N)
+            throw std::length_error("ListaFija: more items than it holds");
+        v_[n_++] = x;
+    }
+    constexpr size_t size() const { return n_; }
+    constexpr bool empty() const { return n_ == 0; }
+    constexpr const T* begin() const { return v_; }
+    constexpr const T* end() const { return v_ + n_; }
+    constexpr const T& operator[](size_t i) const { return v_[i]; }
+
+private:
+    T v_[N] = {};
+    size_t n_ = 0;
+};
+
 // One entry of a field list: a control, or a stretch of members of a control array.
 struct CampoDef {
     std::string_view nombre;
     // Indices of the members in the order the form defines them; empty for a plain control.
-    std::vector<int> indices;
+    ListaFija<int, 64> indices;
     Kind tipo;
     // Design-time texts of text boxes: one for all members when only one stands, else one per
     // member in order; members past the last text are empty.
-    std::vector<std::string_view> textos = {};
+    ListaFija<std::string_view, 10> textos = {};
 };
+
+// The field lists of two parts, one after the other.
+template <size_t N, size_t M>
+consteval std::array<CampoDef, N + M> UneCampos(const CampoDef (&a)[N], const CampoDef (&b)[M])
+{
+    std::array<CampoDef, N + M> out{};
+    for (size_t i = 0; i < N; ++i)
+        out[i] = a[i];
+    for (size_t i = 0; i < M; ++i)
+        out[N + i] = b[i];
+    return out;
+}
+
+// An array of text boxes with members 0 to n - 1.
+consteval CampoDef TextosDe(std::string_view nombre, int n)
+{
+    CampoDef c{nombre, {}, Kind::TextBox};
+    for (int i = 0; i < n; ++i)
+        c.indices.push_back(i);
+    return c;
+}
+
+// What every field list must be, checked when it compiles: a member is defined once; a name is
+// a plain control or an array, never both, and keeps its kind in every stretch; design texts
+// stand on text boxes only and are no more than the members; the title is stored once.
+consteval bool CamposBienFormados(std::span<const CampoDef> campos)
+{
+    int titulos = 0;
+    for (size_t i = 0; i < campos.size(); ++i) {
+        const CampoDef& c = campos[i];
+        if (c.nombre.empty())
+            return false;
+        if (!c.textos.empty() && (c.tipo != Kind::TextBox || c.textos.size() > (c.indices.empty() ? 1 : c.indices.size())))
+            return false;
+        for (size_t a = 0; a < c.indices.size(); ++a) {
+            if (c.indices[a] < 0)
+                return false;
+            for (size_t b = 0; b < a; ++b)
+                if (c.indices[a] == c.indices[b])
+                    return false;
+        }
+        titulos += c.nombre == "txtTitulo" && c.indices.empty() && c.tipo == Kind::TextBox;
+        for (size_t j = 0; j < i; ++j) {
+            const CampoDef& o = campos[j];
+            if (o.nombre != c.nombre)
+                continue;
+            if (o.tipo != c.tipo || o.indices.empty() != c.indices.empty() || c.indices.empty())
+                return false;
+            for (int x : c.indices)
+                for (int y : o.indices)
+                    if (x == y)
+                        return false;
+        }
+    }
+    return titulos == 1;
+}
 
 // How CmdCalcular_Click reaches the check step of the element.
 enum class PasoComprobacion {
@@ -122,7 +210,7 @@ struct GrupoDef {
 // command that opens it.
 struct TablaForm {
     std::string_view nombre;  // "frmZapCorr"; its code is that of its catalogue row
-    std::vector<CampoDef> campos;
+    std::span<const CampoDef> campos;
     CicloForm ciclo;
     std::string_view caption;
     std::string_view titulo;

@@ -21,20 +21,177 @@ constexpr Valor kMinimosZapCorr[] = {{"TxCotaMuro", {}, 10}, {"TxCotaAncho", {},
 constexpr Valor kMinimosPilotes[] = {{"TxtLongPil", {}, 0}, {"TxtLPilote", {}, 0}, {"TxtH", {}, 30}};
 constexpr Valor kMinimosTalud[] = {{"TxCotaTalud", {{0, 0}, {1, 1}}, 10}};
 
+
+// The stored fields of each form, in the order of its record.
+constexpr CampoDef kCamposFrmMuros[] = {
+    {"CmbCatEjec", {}, kLista}, {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"CmbPlanta", {}, kLista},
+    {"TxtDensidad", {}, kTexto, {"1900"}}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto},
+    {"TxtCota", {24, 23}, kTexto, {"0.80", "1.30"}}, {"CheckI", {}, kCasilla}, {"CheckS", {}, kCasilla},
+    {"TxtCota", {0, 1, 2, 3, 22}, kTexto, {"0.80", "2.55", "1.30", "3.60", "6.00"}}, {"OptArr", {2, 1, 0}, kOpcion},
+    {"TxtCota", {21}, kTexto, {"2.80"}}, {"OpTramo", {2}, kOpcion}, {"TxtCota", {17}, kTexto, {"4.90"}},
+    {"OpTramo", {0, 3, 1}, kOpcion}, {"TxtCota", {20, 19, 18}, kTexto, {"2.80", "5.10", "4.80"}}, {"txtTitulo", {}, kTexto},
+    {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4, 12, 11, 10, 9}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25"}},
+};
+static_assert(CamposBienFormados(kCamposFrmMuros));
+
+constexpr CampoDef kCamposFrmMCerr[] = {
+    {"TxtQ", {3}, kTexto, {"0.05"}}, {"txtTitulo", {}, kTexto}, {"OptCab", {2, 1, 0}, kOpcion}, {"OptBase", {0, 1}, kOpcion},
+    {"OptIzq", {1, 0}, kOpcion}, {"OptDer", {0, 1}, kOpcion}, {"OptCalc", {1, 0}, kOpcion},
+    {"TxtCota", {1, 0, 2}, kTexto, {"2.60", "6.00", "0.12"}}, {"TxtQ", {2}, kTexto, {"0.1"}}, {"CmbCatEjec", {}, kLista},
+    {"TxtQ", {1}, kTexto, {"2"}}, {"CmbPlanta", {}, kLista}, {"TxtQ", {0}, kTexto, {"1"}}, {"TxCoefMin", {}, kTexto, {"1.7"}},
+    {"TxCatEjec", {}, kTexto, {"A"}}, {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"CmbFMort", {}, kLista},
+    {"CmbFMat", {}, kLista},
+};
+static_assert(CamposBienFormados(kCamposFrmMCerr));
+
+constexpr CampoDef kCamposFrmMDint[] = {
+    {"TxtRes1", {2, 1, 0}, kTexto}, {"CmbDintel", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista},
+    {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
+    {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"cmbAceroPerfil", {}, kLista}, {"txtEF", {}, kTexto, {"60"}},
+    {"CmbUso", {}, kLista}, {"txtResF1", {}, kTexto}, {"txtResF2", {}, kTexto}, {"chkForjado", {}, kCasilla},
+    {"UCPerfil1", {}, kPerfil}, {"UCArVig", {1, 2}, kNumDiam}, {"UCArCer", {1}, kNumDiamSep}, {"UCArVig", {3}, kNumDiam},
+    {"ChArV", {3, 2, 1}, kCasilla}, {"TextDviga", {1, 0}, kTexto, {"30", "24"}},
+    {"txtCort", {0, 1}, kTexto, {"Compresión oblicua"}}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"UCArCer", {0}, kNumDiamSep},
+    {"UCArVig", {0, 4}, kNumDiam}, {"UCArCer", {2}, kNumDiamSep}, {"txtTitulo", {}, kTexto},
+    {"TxtCota", {3, 0, 1, 2}, kTexto, {"2.4", "4.90", "0.20", "1.20"}}, {"txtEspesor", {}, kTexto, {"24"}},
+    {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"TxtDensidad", {}, kTexto, {"1900"}},
+    {"TxtQ", {3, 2}, kTexto, {"1.0", "1.2"}},
+};
+static_assert(CamposBienFormados(kCamposFrmMDint));
+
+constexpr CampoDef kCamposFrmSuelo[] = {
+    {"txtV", {}, kTexto, {"250"}}, {"txtHy", {}, kTexto, {"0"}}, {"txtIg", {}, kTexto, {"1.00"}},
+    {"txtIq", {}, kTexto, {"1.00"}}, {"txtIc", {}, kTexto, {"1.00"}}, {"txtHx", {}, kTexto, {"0"}},
+    {"txtB", {}, kTexto, {"2.00"}}, {"txtSg", {}, kTexto, {"1.00"}}, {"txtSq", {}, kTexto, {"1.00"}},
+    {"txtSc", {}, kTexto, {"1.00"}}, {"txtA", {}, kTexto, {"2.00"}}, {"txtDg", {}, kTexto, {"1.00"}},
+    {"txtDq", {}, kTexto, {"1.00"}}, {"txtDc", {}, kTexto, {"1.00"}}, {"txtD", {}, kTexto, {"0.8"}},
+    {"txtTg", {}, kTexto, {"1.00"}}, {"txtTq", {}, kTexto, {"1.00"}}, {"txtTc", {}, kTexto, {"1.00"}},
+    {"txtAng", {}, kTexto, {"0"}}, {"txtQd", {}, kTexto, {"1.00"}}, {"txtKsp", {}, kTexto, {"1.00"}},
+    {"txtQu", {}, kTexto, {"20000"}}, {"txtS", {}, kTexto, {"300"}}, {"txtAp", {}, kTexto, {"5"}}, {"chkServ", {}, kCasilla},
+    {"txtSPT", {}, kTexto, {"20"}}, {"txtAnchoEfect", {}, kTexto, {"2.00"}}, {"txtAsiento", {}, kTexto, {"25"}},
+    {"ComboCim", {}, kLista}, {"Text6", {}, kTexto, {"2"}}, {"Text1", {}, kTexto, {"0"}}, {"txtNg", {}, kTexto},
+    {"txtNq", {}, kTexto}, {"txtNc", {}, kTexto}, {"txtTa", {}, kTexto, {"30"}}, {"txtTaServ", {}, kTexto, {"30"}},
+    {"Text5", {}, kTexto, {"30"}}, {"txtTitulo", {}, kTexto}, {"txtTadm", {}, kTexto}, {"txtServ", {}, kTexto},
+    {"Text4", {}, kTexto, {"6"}}, {"CmbTerreno", {}, kLista}, {"Text3", {}, kTexto, {"1800"}}, {"Text2", {}, kTexto, {"30"}},
+};
+static_assert(CamposBienFormados(kCamposFrmSuelo));
+
+constexpr CampoDef kCamposFrmZap[] = {
+    {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
+    {"TxtRes1", {1, 5, 4, 3, 2, 0}, kTexto}, {"txtTitulo", {}, kTexto}, {"chkRiostra", {}, kCasilla}, {"Check1", {}, kCasilla},
+    {"TxtQ", {12}, kTexto, {"2.5"}}, {"UCArmZap", {1, 0, 7, 5, 3, 2, 4, 6}, kZapatas},
+    {"TxtQ", {9, 10, 11}, kTexto, {"40", "0", "0"}},
+    {"TxDimZap", {11, 10, 9, 8, 7, 6}, kTexto, {"50", "50", "50", "50", "140", "140"}}, {"TxPil", {7, 6}, kTexto, {"30"}},
+    {"TxtQ", {6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto, {"25", "0", "0", "40", "0", "0", "0", "0"}},
+    {"TxDimZap", {5, 4, 3, 2, 1, 0}, kTexto, {"140"}}, {"TxDist", {0, 1}, kTexto, {"600", "500"}},
+    {"TxPil", {5, 4, 3, 2, 1, 0}, kTexto, {"30"}}, {"OpPosPil", {2, 1, 0}, kOpcion}, {"UCViga", {2, 3}, kNumDiam},
+    {"UCCercosViga", {1}, kNumDiamSep}, {"TxCota", {13}, kTexto, {"50"}}, {"UCViga", {0, 1}, kNumDiam}, {"UCCercosViga", {0}, kNumDiamSep},
+    {"TxCota", {12, 11, 7, 6, 5, 4, 3, 2, 1, 0, 10, 9, 8}, kTexto, {"40", "40", "140", "40", "40", "600", "30", "50"}},
+};
+static_assert(CamposBienFormados(kCamposFrmZap));
+
+constexpr CampoDef kCamposFrmZapComb[] = {
+    {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
+    {"TxtRes1", {2, 0, 1}, kTexto}, {"Check1", {}, kCasilla}, {"TxtQ", {4}, kTexto, {"2.5"}}, {"UCArmZap", {2, 3, 0, 1}, kZapatas},
+    {"txtTitulo", {}, kTexto}, {"TxCota", {9}, kTexto, {"110"}}, {"TxtQ", {2, 3, 0, 1}, kTexto, {"0", "20", "20", "0"}},
+    {"TxCota", {8, 7, 6, 5, 4, 3, 2, 1, 0}, kTexto, {"170", "40", "40", "30", "40", "30", "30", "30"}},
+};
+static_assert(CamposBienFormados(kCamposFrmZapComb));
+
+constexpr CampoDef kCamposFrmZapCorr[] = {
+    {"Check1", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}}, {"UCArmZap", {0, 1}, kZapatas}, {"OpTipoMuro", {1, 0}, kOpcion},
+    {"TxtQ", {0, 1}, kTexto, {"40", "0"}}, {"TxCotaMuro", {}, kTexto, {"30"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
+    {"TxCotaAlto", {}, kTexto, {"50"}}, {"txtTitulo", {}, kTexto}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
+    {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"TxtRes1", {1, 0}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmZapCorr));
+
+constexpr CampoDef kCamposFrmPilotes[] = {
+    {"txtQadm", {}, kTexto}, {"CmbApoyo", {}, kLista}, {"ChNF", {}, kCasilla}, {"CmbEstratos", {}, kLista},
+    {"TxtLongPil", {}, kTexto, {"12"}}, {"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}},
+    {"txtCohesion", {0}, kTexto, {"10"}}, {"txtRozam", {0}, kTexto, {"30"}}, {"txtSPT", {0}, kTexto, {"20"}},
+    {"txtCohesion", {1}, kTexto, {"10"}}, {"txtRozam", {1}, kTexto, {"30"}}, {"txtSPT", {1}, kTexto, {"20"}},
+    {"txtCohesion", {2}, kTexto, {"10"}}, {"txtRozam", {2}, kTexto, {"30"}}, {"txtSPT", {2}, kTexto, {"20"}},
+    {"txtCohesion", {3}, kTexto, {"10"}}, {"txtRozam", {3}, kTexto, {"30"}}, {"txtSPT", {3}, kTexto, {"20"}},
+    {"txtCohesion", {4}, kTexto, {"10"}}, {"txtRozam", {4}, kTexto, {"30"}}, {"txtSPT", {4}, kTexto, {"20"}},
+    {"txtCohesion", {5}, kTexto, {"50"}}, {"txtRozam", {5}, kTexto, {"30"}}, {"txtSPT", {5}, kTexto, {"40"}},
+    {"CmbCaract", {}, kLista}, {"cmbSuelo", {}, kLista}, {"TxtNF", {}, kTexto, {"10"}},
+    {"txtDens", {5, 0, 1, 2, 3, 4}, kTexto, {"18"}}, {"txtQu", {}, kTexto, {"20000"}}, {"txtAp", {}, kTexto, {"5"}},
+    {"txtS", {}, kTexto, {"300"}}, {"txtLe", {}, kTexto, {"1.2"}}, {"txtKsp", {}, kTexto, {"0.50"}},
+    {"txtQd", {}, kTexto, {"10000"}}, {"TxtRes1", {2, 3}, kTexto}, {"cmbPil", {5, 4, 3, 2, 1, 0}, kLista},
+    {"CmbTipos", {}, kLista}, {"UCPilote", {}, kNumDiam}, {"UCEncepado", {}, kNumDiam},
+    {"TxtQ", {2, 1, 0}, kTexto, {"0", "0", "40"}}, {"CmbDiam", {}, kLista}, {"TxtLPilote", {}, kTexto, {"12"}},
+    {"TxtQ", {5, 3, 4}, kTexto, {"40"}}, {"TxCota", {0, 1}, kTexto, {"30"}}, {"TxtH", {}, kTexto, {"60"}},
+    {"ChRiostra", {3, 2, 1, 0}, kCasilla}, {"TxtSep", {}, kTexto, {"100"}}, {"txtTitulo", {}, kTexto},
+    {"TxCota", {12, 11}, kTexto, {"40"}}, {"TxtLong", {0, 1, 2, 3}, kTexto, {"4"}}, {"UCViga", {2, 3}, kNumDiam},
+    {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
+    {"CmbNumPil", {}, kLista}, {"TxtRes1", {4, 0, 1}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmPilotes));
+
+constexpr CampoDef kCamposFrmMuroH[] = {
+    {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
+    {"Text1", {}, kTexto, {"30"}}, {"OptDelta", {2, 1, 0}, kOpcion}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
+    {"Check1", {}, kCasilla}, {"CheckFM", {}, kCasilla}, {"TxtQ", {1, 0, 3}, kTexto, {"0", "10", "0.3"}}, {"txtTitulo", {}, kTexto},
+    {"TxCotaAlto", {}, kTexto, {"50"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
+    {"TxCotaMuro", {0, 1, 2, 3, 4, 5, 6, 7}, kTexto, {"30", "260", "30", "30", "260", "30", "30", "260"}},
+    {"TxVuelo", {0}, kTexto, {"60"}}, {"TxCotaMuro", {8, 9, 10, 11}, kTexto, {"30", "30", "260", "30"}},
+    {"UCArmMuro", {15, 13, 11, 9, 5, 7, 1, 3, 2, 0}, kZapatas}, {"UCArmZap", {0, 1}, kZapatas},
+    {"UCArmMuro", {4, 6, 8, 10, 12, 14}, kZapatas}, {"TxVuelo", {1}, kTexto, {"60"}}, {"CmbSot", {}, kLista},
+    {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
+    {"TxtRes1", {0, 1, 2}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmMuroH));
+
+constexpr CampoDef kCamposFrmMuroCont[] = {
+    {"cmbTipo", {}, kLista}, {"ChkMortero", {}, kCasilla}, {"TxtDensFabr", {}, kTexto, {"2600"}},
+    {"TxCoefAcc", {}, kTexto, {"1.70"}}, {"TxtQ", {5}, kTexto, {"90"}}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
+    {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"TxtRes1", {0, 1, 2, 4, 3}, kTexto}, {"Text2", {}, kTexto, {"30"}},
+    {"Text3", {}, kTexto, {"1800"}}, {"CmbTerreno", {}, kLista}, {"Text4", {}, kTexto, {"1.00"}}, {"Text5", {}, kTexto, {".5"}},
+    {"TxtQ", {2}, kTexto, {"2.5"}}, {"Check1", {}, kCasilla}, {"chkEmpPasivo", {}, kCasilla}, {"Text1", {}, kTexto, {"30"}},
+    {"OptDelta", {0, 1, 2}, kOpcion}, {"CmbTerr", {}, kLista}, {"TxtDensidad", {}, kTexto, {"1800"}},
+    {"TxtAngulo", {}, kTexto, {"30"}}, {"txtCohesion", {}, kTexto, {"1.00"}}, {"TxtQ", {0, 1}, kTexto, {"5", "0"}},
+    {"txtTitulo", {}, kTexto}, {"TxtCotaTacon", {}, kTexto, {"50"}}, {"TxtCotaSuelo", {}, kTexto, {"40"}},
+    {"UCArmMuro", {0, 2, 3}, kZapatas}, {"UCArmZap", {3, 2, 1}, kZapatas}, {"TxCotaMuro", {3}, kTexto, {"30"}},
+    {"TxCotaAlto", {}, kTexto, {"50"}}, {"TxCotaAncho", {}, kTexto, {"150"}}, {"TxCotaMuro", {2, 0}, kTexto, {"35", "220"}},
+    {"TxVuelo", {0, 1}, kTexto, {"60", "55"}}, {"TxCotaMuro", {1}, kTexto, {"30"}}, {"TxtQ", {3}, kTexto, {"0.3"}},
+    {"UCArmMuro", {1}, kZapatas}, {"UCArmZap", {0}, kZapatas},
+    {"TxCotaMuro", {10, 9, 8, 7, 6}, kTexto, {"20", "60", "110", "210", "40"}}, {"TxtQ", {4}, kTexto, {"1"}},
+    {"TxCotaMuro", {5, 4}, kTexto, {"30"}},
+};
+static_assert(CamposBienFormados(kCamposFrmMuroCont));
+
+constexpr CampoDef kCamposFrmMuroAnclado[] = {
+    {"TxtQ", {4}, kTexto, {"40"}}, {"txtAng", {0}, kTexto, {"25"}}, {"TxtSep", {0, 1}, kTexto, {"300"}},
+    {"txtAng", {1}, kTexto, {"25"}}, {"TxtQ", {5}, kTexto, {"40"}}, {"TxtSep", {2}, kTexto, {"300"}},
+    {"txtAng", {2}, kTexto, {"25"}}, {"TxtQ", {6}, kTexto, {"40"}}, {"TxtSep", {3}, kTexto, {"300"}},
+    {"txtAng", {3}, kTexto, {"25"}}, {"TxtQ", {7}, kTexto, {"40"}}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
+    {"Check1", {}, kCasilla}, {"TxtQ", {3}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}},
+    {"TxtDensidad", {}, kTexto, {"1800"}}, {"CmbTalud", {}, kLista}, {"optEmpuje", {0, 1}, kOpcion}, {"cmbTerz", {}, kLista},
+    {"CheckFM", {}, kCasilla}, {"TxtQ", {1, 0, 8}, kTexto, {"0", "10", "0.3"}}, {"txtTitulo", {}, kTexto},
+    {"TxCotaAlto", {}, kTexto, {"50"}},
+    {"TxCotaMuro", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, kTexto, {"30", "260", "30", "30", "260", "30", "30", "260"}},
+    {"UCArmMuro", {15, 13, 11, 9, 5, 7, 1, 3, 2, 0}, kZapatas}, {"UCArmZap", {0, 1}, kZapatas},
+    {"UCArmMuro", {4, 6, 8, 10, 12, 14}, kZapatas}, {"TxCotaAncho", {}, kTexto, {"90"}}, {"TxVuelo", {}, kTexto, {"60"}},
+    {"CmbSot", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
+    {"CmbHorm", {}, kLista}, {"TxtRes1", {3, 0, 1, 2}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmMuroAnclado));
+
+constexpr CampoDef kCamposFrmTalud[] = {
+    {"TxtQ", {1}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1800"}},
+    {"CmbTalud", {}, kLista}, {"TxtRes1", {0}, kTexto}, {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto},
+    {"txtTitulo", {}, kTexto}, {"optDrenaje", {0, 1}, kOpcion}, {"TxCotaTalud", {2}, kTexto, {"45"}}, {"chkEstrato", {}, kCasilla},
+    {"TxCotaTalud", {0, 1}, kTexto, {"220", "120"}}, {"TxtQ", {0}, kTexto, {".5"}},
+};
+static_assert(CamposBienFormados(kCamposFrmTalud));
+
 }  // namespace
 
 const std::vector<TablaForm>& TablasFabricaTerreno()
 {
     static const std::vector<TablaForm> tablas = {
-        {"frmMuros", {
-            {"CmbCatEjec", {}, kLista}, {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"CmbPlanta", {}, kLista},
-            {"TxtDensidad", {}, kTexto, {"1900"}}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto},
-            {"TxtCota", {24, 23}, kTexto, {"0.80", "1.30"}}, {"CheckI", {}, kCasilla}, {"CheckS", {}, kCasilla},
-            {"TxtCota", {0, 1, 2, 3, 22}, kTexto, {"0.80", "2.55", "1.30", "3.60", "6.00"}}, {"OptArr", {2, 1, 0}, kOpcion},
-            {"TxtCota", {21}, kTexto, {"2.80"}}, {"OpTramo", {2}, kOpcion}, {"TxtCota", {17}, kTexto, {"4.90"}},
-            {"OpTramo", {0, 3, 1}, kOpcion}, {"TxtCota", {20, 19, 18}, kTexto, {"2.80", "5.10", "4.80"}}, {"txtTitulo", {}, kTexto},
-            {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4, 12, 11, 10, 9}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25"}},
-        },
+        {"frmMuros", kCamposFrmMuros,
          // Reasoned titles for the masonry forms.
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Muros de Fábrica", "Muro Fábrica 01", kNada, kMinimosMuros,
@@ -54,14 +211,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtRes2", -1, "Extremo"},
          }),
          MenuDef{"Fabrica", 1, "mnuMuros", ""}},
-        {"frmMCerr", {
-            {"TxtQ", {3}, kTexto, {"0.05"}}, {"txtTitulo", {}, kTexto}, {"OptCab", {2, 1, 0}, kOpcion}, {"OptBase", {0, 1}, kOpcion},
-            {"OptIzq", {1, 0}, kOpcion}, {"OptDer", {0, 1}, kOpcion}, {"OptCalc", {1, 0}, kOpcion},
-            {"TxtCota", {1, 0, 2}, kTexto, {"2.60", "6.00", "0.12"}}, {"TxtQ", {2}, kTexto, {"0.1"}}, {"CmbCatEjec", {}, kLista},
-            {"TxtQ", {1}, kTexto, {"2"}}, {"CmbPlanta", {}, kLista}, {"TxtQ", {0}, kTexto, {"1"}}, {"TxCoefMin", {}, kTexto, {"1.7"}},
-            {"TxCatEjec", {}, kTexto, {"A"}}, {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"CmbFMort", {}, kLista},
-            {"CmbFMat", {}, kLista},
-        },
+        {"frmMCerr", kCamposFrmMCerr,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Cerramientos sometidos a acciones horizontales", "Cerramiento 01", kNada, kMinimosMCerr,
          Listas{{"CmbCatEjec", -1, kCategoriaEjecucion}, {"CmbFMort", -1, kMortero}, {"CmbFMat", -1, kPieza}},
@@ -94,19 +244,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kCb, "CmbFMat", -1, "Material de las piezas"},
          }),
          MenuDef{"Fabrica", 3, "mnuMCerr", ""}},
-        {"frmMDint", {
-            {"TxtRes1", {2, 1, 0}, kTexto}, {"CmbDintel", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista},
-            {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista},
-            {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"cmbAceroPerfil", {}, kLista}, {"txtEF", {}, kTexto, {"60"}},
-            {"CmbUso", {}, kLista}, {"txtResF1", {}, kTexto}, {"txtResF2", {}, kTexto}, {"chkForjado", {}, kCasilla},
-            {"UCPerfil1", {}, kPerfil}, {"UCArVig", {1, 2}, kNumDiam}, {"UCArCer", {1}, kNumDiamSep}, {"UCArVig", {3}, kNumDiam},
-            {"ChArV", {3, 2, 1}, kCasilla}, {"TextDviga", {1, 0}, kTexto, {"30", "24"}},
-            {"txtCort", {0, 1}, kTexto, {"Compresión oblicua"}}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"UCArCer", {0}, kNumDiamSep},
-            {"UCArVig", {0, 4}, kNumDiam}, {"UCArCer", {2}, kNumDiamSep}, {"txtTitulo", {}, kTexto},
-            {"TxtCota", {3, 0, 1, 2}, kTexto, {"2.4", "4.90", "0.20", "1.20"}}, {"txtEspesor", {}, kTexto, {"24"}},
-            {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"TxtDensidad", {}, kTexto, {"1900"}},
-            {"TxtQ", {3, 2}, kTexto, {"1.0", "1.2"}},
-        },
+        {"frmMDint", kCamposFrmMDint,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Dintel Fábrica", "Dintel 01", kRecubEstructura, kMinimosMDint,
          Listas{{"CmbDintel", -1, kDintel}, {"CmbAmbGral", -1, kAmbienteDintel}, {"CmbAmbEspec", -1, kAmbienteEspecificoDintel}, {"cmbAceroPerfil", -1, kAceroLaminado}} + ListasMadera() + ListasHormigon(),
@@ -123,21 +261,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtRes1", 2, "Fábrica"},
          }),
          MenuDef{"Fabrica", 2, "mnuMDint", ""}},
-        {"frmSuelo", {
-            {"txtV", {}, kTexto, {"250"}}, {"txtHy", {}, kTexto, {"0"}}, {"txtIg", {}, kTexto, {"1.00"}},
-            {"txtIq", {}, kTexto, {"1.00"}}, {"txtIc", {}, kTexto, {"1.00"}}, {"txtHx", {}, kTexto, {"0"}},
-            {"txtB", {}, kTexto, {"2.00"}}, {"txtSg", {}, kTexto, {"1.00"}}, {"txtSq", {}, kTexto, {"1.00"}},
-            {"txtSc", {}, kTexto, {"1.00"}}, {"txtA", {}, kTexto, {"2.00"}}, {"txtDg", {}, kTexto, {"1.00"}},
-            {"txtDq", {}, kTexto, {"1.00"}}, {"txtDc", {}, kTexto, {"1.00"}}, {"txtD", {}, kTexto, {"0.8"}},
-            {"txtTg", {}, kTexto, {"1.00"}}, {"txtTq", {}, kTexto, {"1.00"}}, {"txtTc", {}, kTexto, {"1.00"}},
-            {"txtAng", {}, kTexto, {"0"}}, {"txtQd", {}, kTexto, {"1.00"}}, {"txtKsp", {}, kTexto, {"1.00"}},
-            {"txtQu", {}, kTexto, {"20000"}}, {"txtS", {}, kTexto, {"300"}}, {"txtAp", {}, kTexto, {"5"}}, {"chkServ", {}, kCasilla},
-            {"txtSPT", {}, kTexto, {"20"}}, {"txtAnchoEfect", {}, kTexto, {"2.00"}}, {"txtAsiento", {}, kTexto, {"25"}},
-            {"ComboCim", {}, kLista}, {"Text6", {}, kTexto, {"2"}}, {"Text1", {}, kTexto, {"0"}}, {"txtNg", {}, kTexto},
-            {"txtNq", {}, kTexto}, {"txtNc", {}, kTexto}, {"txtTa", {}, kTexto, {"30"}}, {"txtTaServ", {}, kTexto, {"30"}},
-            {"Text5", {}, kTexto, {"30"}}, {"txtTitulo", {}, kTexto}, {"txtTadm", {}, kTexto}, {"txtServ", {}, kTexto},
-            {"Text4", {}, kTexto, {"6"}}, {"CmbTerreno", {}, kLista}, {"Text3", {}, kTexto, {"1800"}}, {"Text2", {}, kTexto, {"30"}},
-        },
+        {"frmSuelo", kCamposFrmSuelo,
          {false, true, PasoComprobacion::Ninguno, false},
          "Definición del terreno de cimentación", "Terreno 01", kNada, kNada,
          Listas{{"CmbTerreno", -1, kTerreno}, {"ComboCim", -1, kCimiento}},
@@ -245,18 +369,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "txtServ", -1, "Tensión admisible de servicio (kN/m2)"},
          }),
          MenuDef{"Cimentacion", 1, "mnuSuelo", ""}},
-        {"frmZap", {
-            {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
-            {"TxtRes1", {1, 5, 4, 3, 2, 0}, kTexto}, {"txtTitulo", {}, kTexto}, {"chkRiostra", {}, kCasilla}, {"Check1", {}, kCasilla},
-            {"TxtQ", {12}, kTexto, {"2.5"}}, {"UCArmZap", {1, 0, 7, 5, 3, 2, 4, 6}, kZapatas},
-            {"TxtQ", {9, 10, 11}, kTexto, {"40", "0", "0"}},
-            {"TxDimZap", {11, 10, 9, 8, 7, 6}, kTexto, {"50", "50", "50", "50", "140", "140"}}, {"TxPil", {7, 6}, kTexto, {"30"}},
-            {"TxtQ", {6, 7, 8, 3, 4, 5, 2, 1, 0}, kTexto, {"25", "0", "0", "40", "0", "0", "0", "0"}},
-            {"TxDimZap", {5, 4, 3, 2, 1, 0}, kTexto, {"140"}}, {"TxDist", {0, 1}, kTexto, {"600", "500"}},
-            {"TxPil", {5, 4, 3, 2, 1, 0}, kTexto, {"30"}}, {"OpPosPil", {2, 1, 0}, kOpcion}, {"UCViga", {2, 3}, kNumDiam},
-            {"UCCercosViga", {1}, kNumDiamSep}, {"TxCota", {13}, kTexto, {"50"}}, {"UCViga", {0, 1}, kNumDiam}, {"UCCercosViga", {0}, kNumDiamSep},
-            {"TxCota", {12, 11, 7, 6, 5, 4, 3, 2, 1, 0, 10, 9, 8}, kTexto, {"40", "40", "140", "40", "40", "600", "30", "50"}},
-        },
+        {"frmZap", kCamposFrmZap,
          // Plan sizes at least 40 cm, depths 30 cm and column sides 10 cm, as the strip footing.
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Zapatas Aisladas", "Zapata Aislada 01", kRecubTerrenoYPosicionInterior, kMinimosZap,
@@ -279,12 +392,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 12, "Tensión admisible terreno"},
          }),
          MenuDef{"Cimentacion", 2, "mnuZap", ""}},
-        {"frmZapComb", {
-            {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
-            {"TxtRes1", {2, 0, 1}, kTexto}, {"Check1", {}, kCasilla}, {"TxtQ", {4}, kTexto, {"2.5"}}, {"UCArmZap", {2, 3, 0, 1}, kZapatas},
-            {"txtTitulo", {}, kTexto}, {"TxCota", {9}, kTexto, {"110"}}, {"TxtQ", {2, 3, 0, 1}, kTexto, {"0", "20", "20", "0"}},
-            {"TxCota", {8, 7, 6, 5, 4, 3, 2, 1, 0}, kTexto, {"170", "40", "40", "30", "40", "30", "30", "30"}},
-        },
+        {"frmZapComb", kCamposFrmZapComb,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Zapatas Combinadas", "Zapata Combinada 01-02", kRecubTerreno, kMinimosZapComb,
          ListasHormigon(),
@@ -294,12 +402,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 4, "Tensión admisible terreno"},
          }),
          MenuDef{"Cimentacion", 3, "mnuZapComb", ""}},
-        {"frmZapCorr", {
-            {"Check1", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}}, {"UCArmZap", {0, 1}, kZapatas}, {"OpTipoMuro", {1, 0}, kOpcion},
-            {"TxtQ", {0, 1}, kTexto, {"40", "0"}}, {"TxCotaMuro", {}, kTexto, {"30"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
-            {"TxCotaAlto", {}, kTexto, {"50"}}, {"txtTitulo", {}, kTexto}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
-            {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"TxtRes1", {1, 0}, kTexto},
-        },
+        {"frmZapCorr", kCamposFrmZapCorr,
          {true, true, PasoComprobacion::Bandera, false},
          "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr,
          ListasHormigon(),
@@ -314,27 +417,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 2, "Tensión admisible terreno"},
          }),
          MenuDef{"Cimentacion", 4, "mnuZapCorr", ""}},
-        {"frmPilotes", {
-            {"txtQadm", {}, kTexto}, {"CmbApoyo", {}, kLista}, {"ChNF", {}, kCasilla}, {"CmbEstratos", {}, kLista},
-            {"TxtLongPil", {}, kTexto, {"12"}}, {"txtEspesor", {4, 3, 2, 1, 0, 5}, kTexto, {"5", "5", "5", "5", "12"}},
-            {"txtCohesion", {0}, kTexto, {"10"}}, {"txtRozam", {0}, kTexto, {"30"}}, {"txtSPT", {0}, kTexto, {"20"}},
-            {"txtCohesion", {1}, kTexto, {"10"}}, {"txtRozam", {1}, kTexto, {"30"}}, {"txtSPT", {1}, kTexto, {"20"}},
-            {"txtCohesion", {2}, kTexto, {"10"}}, {"txtRozam", {2}, kTexto, {"30"}}, {"txtSPT", {2}, kTexto, {"20"}},
-            {"txtCohesion", {3}, kTexto, {"10"}}, {"txtRozam", {3}, kTexto, {"30"}}, {"txtSPT", {3}, kTexto, {"20"}},
-            {"txtCohesion", {4}, kTexto, {"10"}}, {"txtRozam", {4}, kTexto, {"30"}}, {"txtSPT", {4}, kTexto, {"20"}},
-            {"txtCohesion", {5}, kTexto, {"50"}}, {"txtRozam", {5}, kTexto, {"30"}}, {"txtSPT", {5}, kTexto, {"40"}},
-            {"CmbCaract", {}, kLista}, {"cmbSuelo", {}, kLista}, {"TxtNF", {}, kTexto, {"10"}},
-            {"txtDens", {5, 0, 1, 2, 3, 4}, kTexto, {"18"}}, {"txtQu", {}, kTexto, {"20000"}}, {"txtAp", {}, kTexto, {"5"}},
-            {"txtS", {}, kTexto, {"300"}}, {"txtLe", {}, kTexto, {"1.2"}}, {"txtKsp", {}, kTexto, {"0.50"}},
-            {"txtQd", {}, kTexto, {"10000"}}, {"TxtRes1", {2, 3}, kTexto}, {"cmbPil", {5, 4, 3, 2, 1, 0}, kLista},
-            {"CmbTipos", {}, kLista}, {"UCPilote", {}, kNumDiam}, {"UCEncepado", {}, kNumDiam},
-            {"TxtQ", {2, 1, 0}, kTexto, {"0", "0", "40"}}, {"CmbDiam", {}, kLista}, {"TxtLPilote", {}, kTexto, {"12"}},
-            {"TxtQ", {5, 3, 4}, kTexto, {"40"}}, {"TxCota", {0, 1}, kTexto, {"30"}}, {"TxtH", {}, kTexto, {"60"}},
-            {"ChRiostra", {3, 2, 1, 0}, kCasilla}, {"TxtSep", {}, kTexto, {"100"}}, {"txtTitulo", {}, kTexto},
-            {"TxCota", {12, 11}, kTexto, {"40"}}, {"TxtLong", {0, 1, 2, 3}, kTexto, {"4"}}, {"UCViga", {2, 3}, kNumDiam},
-            {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
-            {"CmbNumPil", {}, kLista}, {"TxtRes1", {4, 0, 1}, kTexto},
-        },
+        {"frmPilotes", kCamposFrmPilotes,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilotes", "Pilotes 01", kRecubTerreno, kMinimosPilotes,
          // The pile loads, then the tip, shaft and total capacities, forces all.
@@ -383,18 +466,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kNd, "UCViga", -1, "Armadura de riostra"},
          }),
          MenuDef{"Cimentacion", 5, "mnuPilotes", ""}},
-        {"frmMuroH", {
-            {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
-            {"Text1", {}, kTexto, {"30"}}, {"OptDelta", {2, 1, 0}, kOpcion}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
-            {"Check1", {}, kCasilla}, {"CheckFM", {}, kCasilla}, {"TxtQ", {1, 0, 3}, kTexto, {"0", "10", "0.3"}}, {"txtTitulo", {}, kTexto},
-            {"TxCotaAlto", {}, kTexto, {"50"}}, {"TxCotaAncho", {}, kTexto, {"150"}},
-            {"TxCotaMuro", {0, 1, 2, 3, 4, 5, 6, 7}, kTexto, {"30", "260", "30", "30", "260", "30", "30", "260"}},
-            {"TxVuelo", {0}, kTexto, {"60"}}, {"TxCotaMuro", {8, 9, 10, 11}, kTexto, {"30", "30", "260", "30"}},
-            {"UCArmMuro", {15, 13, 11, 9, 5, 7, 1, 3, 2, 0}, kZapatas}, {"UCArmZap", {0, 1}, kZapatas},
-            {"UCArmMuro", {4, 6, 8, 10, 12, 14}, kZapatas}, {"TxVuelo", {1}, kTexto, {"60"}}, {"CmbSot", {}, kLista},
-            {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbHorm", {}, kLista},
-            {"TxtRes1", {0, 1, 2}, kTexto},
-        },
+        {"frmMuroH", kCamposFrmMuroH,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,
          Listas{{"CmbTerr", -1, kRelleno}} + ListasMuro() + ListasHormigon(),
@@ -403,22 +475,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 3, "Carga coronación"},
          }),
          MenuDef{"Cimentacion", 6, "mnuMuroH", ""}},
-        {"frmMuroCont", {
-            {"cmbTipo", {}, kLista}, {"ChkMortero", {}, kCasilla}, {"TxtDensFabr", {}, kTexto, {"2600"}},
-            {"TxCoefAcc", {}, kTexto, {"1.70"}}, {"TxtQ", {5}, kTexto, {"90"}}, {"CmbHorm", {}, kLista}, {"CmbAcero", {}, kLista},
-            {"cmbControl", {}, kLista}, {"CmbRecub", {}, kLista}, {"TxtRes1", {0, 1, 2, 4, 3}, kTexto}, {"Text2", {}, kTexto, {"30"}},
-            {"Text3", {}, kTexto, {"1800"}}, {"CmbTerreno", {}, kLista}, {"Text4", {}, kTexto, {"1.00"}}, {"Text5", {}, kTexto, {".5"}},
-            {"TxtQ", {2}, kTexto, {"2.5"}}, {"Check1", {}, kCasilla}, {"chkEmpPasivo", {}, kCasilla}, {"Text1", {}, kTexto, {"30"}},
-            {"OptDelta", {0, 1, 2}, kOpcion}, {"CmbTerr", {}, kLista}, {"TxtDensidad", {}, kTexto, {"1800"}},
-            {"TxtAngulo", {}, kTexto, {"30"}}, {"txtCohesion", {}, kTexto, {"1.00"}}, {"TxtQ", {0, 1}, kTexto, {"5", "0"}},
-            {"txtTitulo", {}, kTexto}, {"TxtCotaTacon", {}, kTexto, {"50"}}, {"TxtCotaSuelo", {}, kTexto, {"40"}},
-            {"UCArmMuro", {0, 2, 3}, kZapatas}, {"UCArmZap", {3, 2, 1}, kZapatas}, {"TxCotaMuro", {3}, kTexto, {"30"}},
-            {"TxCotaAlto", {}, kTexto, {"50"}}, {"TxCotaAncho", {}, kTexto, {"150"}}, {"TxCotaMuro", {2, 0}, kTexto, {"35", "220"}},
-            {"TxVuelo", {0, 1}, kTexto, {"60", "55"}}, {"TxCotaMuro", {1}, kTexto, {"30"}}, {"TxtQ", {3}, kTexto, {"0.3"}},
-            {"UCArmMuro", {1}, kZapatas}, {"UCArmZap", {0}, kZapatas},
-            {"TxCotaMuro", {10, 9, 8, 7, 6}, kTexto, {"20", "60", "110", "210", "40"}}, {"TxtQ", {4}, kTexto, {"1"}},
-            {"TxCotaMuro", {5, 4}, kTexto, {"30"}},
-        },
+        {"frmMuroCont", kCamposFrmMuroCont,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Muros de Contención", "Muro Contención 01", kRecubTerreno, kMinimosMuro,
          // TxtQ(5) is the strength of a masonry wall.
@@ -442,21 +499,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtQ", 3, "Carga coronación"},
          }),
          MenuDef{"Cimentacion", 7, "mnuMuroCont", ""}},
-        {"frmMuroAnclado", {
-            {"TxtQ", {4}, kTexto, {"40"}}, {"txtAng", {0}, kTexto, {"25"}}, {"TxtSep", {0, 1}, kTexto, {"300"}},
-            {"txtAng", {1}, kTexto, {"25"}}, {"TxtQ", {5}, kTexto, {"40"}}, {"TxtSep", {2}, kTexto, {"300"}},
-            {"txtAng", {2}, kTexto, {"25"}}, {"TxtQ", {6}, kTexto, {"40"}}, {"TxtSep", {3}, kTexto, {"300"}},
-            {"txtAng", {3}, kTexto, {"25"}}, {"TxtQ", {7}, kTexto, {"40"}}, {"Check2", {}, kCasilla}, {"TxtQ", {2}, kTexto, {"2.5"}},
-            {"Check1", {}, kCasilla}, {"TxtQ", {3}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}},
-            {"TxtDensidad", {}, kTexto, {"1800"}}, {"CmbTalud", {}, kLista}, {"optEmpuje", {0, 1}, kOpcion}, {"cmbTerz", {}, kLista},
-            {"CheckFM", {}, kCasilla}, {"TxtQ", {1, 0, 8}, kTexto, {"0", "10", "0.3"}}, {"txtTitulo", {}, kTexto},
-            {"TxCotaAlto", {}, kTexto, {"50"}},
-            {"TxCotaMuro", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, kTexto, {"30", "260", "30", "30", "260", "30", "30", "260"}},
-            {"UCArmMuro", {15, 13, 11, 9, 5, 7, 1, 3, 2, 0}, kZapatas}, {"UCArmZap", {0, 1}, kZapatas},
-            {"UCArmMuro", {4, 6, 8, 10, 12, 14}, kZapatas}, {"TxCotaAncho", {}, kTexto, {"90"}}, {"TxVuelo", {}, kTexto, {"60"}},
-            {"CmbSot", {}, kLista}, {"CmbRecub", {}, kLista}, {"cmbControl", {}, kLista}, {"CmbAcero", {}, kLista},
-            {"CmbHorm", {}, kLista}, {"TxtRes1", {3, 0, 1, 2}, kTexto},
-        },
+        {"frmMuroAnclado", kCamposFrmMuroAnclado,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Muros Anclados", "Muro Anclado 01", kRecubTerreno, kMinimosMuro,
          // TxtQ(4) to (7) are the tensions of the anchors.
@@ -479,12 +522,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
              {kTx, "TxtSep", -1, "Separación anclajes (cm)"},
          }),
          MenuDef{"Cimentacion", 8, "mnuMuroAnclado", ""}},
-        {"frmTalud", {
-            {"TxtQ", {1}, kTexto, {"1.00"}}, {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1800"}},
-            {"CmbTalud", {}, kLista}, {"TxtRes1", {0}, kTexto}, {"txCuelgue", {}, kTexto}, {"TxCercos", {}, kTexto},
-            {"txtTitulo", {}, kTexto}, {"optDrenaje", {0, 1}, kOpcion}, {"TxCotaTalud", {2}, kTexto, {"45"}}, {"chkEstrato", {}, kCasilla},
-            {"TxCotaTalud", {0, 1}, kTexto, {"220", "120"}}, {"TxtQ", {0}, kTexto, {".5"}},
-        },
+        {"frmTalud", kCamposFrmTalud,
          // The slope also compares its angle with 90, an upper limit.
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Taludes", "Talud 01", kNada, kMinimosTalud,

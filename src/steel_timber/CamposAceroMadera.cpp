@@ -14,20 +14,115 @@ constexpr Valor kMinimosPilMet[] = {{"LePil", {{0, 11}}, 0}};
 constexpr Valor kMinimosForjAcer[] = {{"txtForj", {{1, 4}}, 0}, {"TxtQ", {{0, 4}}, 0}};
 constexpr Valor kMinimosForMade[] = {{"txtForj", {{0, 4}}, 0}, {"TxtQ", {{0, 4}}, 0}};
 
+
+// The stored fields of each form, in the order of its record.
+constexpr CampoDef kCamposFrmVigMet[] = {
+    {"cmbClase", {}, kLista}, {"UCPerfil1", {}, kPerfil}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"TxCota", {1}, kTexto, {" 5.50"}},
+    {"TxtPil", {0, 1}, kTexto, {"30"}}, {"ChVigIzq", {}, kCasilla}, {"ChPilIzq", {}, kCasilla}, {"ChPilDer", {}, kCasilla},
+    {"ChVigDer", {}, kCasilla}, {"TxCota", {2}, kTexto, {" 2.00"}}, {"TxtQ", {2}, kTexto, {"1.2"}},
+    {"TxCota", {3}, kTexto, {" 2.00"}}, {"TxtQ", {3, 0, 4}, kTexto, {"1.5", "1", "1"}}, {"CmTramos", {}, kLista},
+    {"TxtQ", {5, 6}, kTexto, {"40"}}, {"TxCota", {0, 4}, kTexto, {"1.10"}}, {"txtTitulo", {}, kTexto}, {"cmbPart", {}, kLista},
+    {"CmbCaso", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbPlanta", {}, kLista}, {"TxtRes4", {}, kTexto}, {"TxtRes3", {}, kTexto},
+    {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmVigMet));
+
+constexpr CampoDef kCamposFrmPilMet[] = {
+    {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
+    {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
+    {"ChkArriostradaX", {}, kCasilla}, {"ChkArriostradaY", {}, kCasilla}, {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto},
+    {"OpPosPil", {0, 1, 2}, kOpcion}, {"LePil", {12}, kTexto, {"3.10"}}, {"ChRotS", {}, kCasilla}, {"ChRotI", {}, kCasilla},
+    {"ChPilSup", {}, kCasilla}, {"TxtQ", {0, 3, 1, 2}, kTexto, {"800", "40", "0", "0"}},
+    {"LePil", {7, 6, 5, 4, 3, 2, 1, 0, 11, 10, 9, 8}, kTexto, {"1.10", "1.10", "4.50", "5.00", "5.00", "5.00", "4.50", "4.50"}},
+    {"UCViga", {2}, kPerfil}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes2", {}, kTexto},
+    {"TxtRes1", {}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmPilMet));
+
+constexpr CampoDef kCamposFrmBasMet[] = {
+    {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
+    {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
+    {"TxMx", {}, kTexto, {"2"}}, {"TxEspCartY", {}, kTexto, {"1.2"}}, {"TxEspCartX", {}, kTexto, {"1.2"}},
+    {"TxNumTorY", {}, kTexto, {"2"}}, {"TxNumTorX", {}, kTexto, {"2"}}, {"ChY", {}, kCasilla}, {"ChX", {}, kCasilla},
+    {"TxCotaCartY", {1, 0}, kTexto, {"15", "10"}}, {"UCPerfil1", {}, kPerfil}, {"TxCota", {3}, kTexto, {"25"}},
+    {"TxCotaCartX", {1, 0}, kTexto, {"15", "10"}}, {"TxCota", {1, 0}, kTexto, {"50", "60"}}, {"txtTitulo", {}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmBasMet));
+
+constexpr CampoDef kCamposFrmForjAcer[] = {
+    {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
+    {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
+    {"ChInclinado", {}, kCasilla}, {"txtForj", {4, 3, 2, 1}, kTexto, {"0", "2.5", "18", "40"}}, {"txtTitulo", {}, kTexto},
+    {"OpTramo", {5}, kOpcion}, {"TxTrAd", {1, 0}, kTexto, {"4.8"}}, {"OpTramo", {0, 1, 2, 3, 4}, kOpcion},
+    {"cmbClase", {}, kLista}, {"TxCota", {3, 2}, kTexto, {"1.10"}}, {"ChVigDer", {}, kCasilla}, {"ChVigIzq", {}, kCasilla},
+    {"TxtQ", {4, 3, 2, 1}, kTexto, {"0.2", "0.2", "500", "500"}}, {"TxCota", {0}, kTexto, {"2.00"}},
+    {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}}, {"UCPerfil1", {}, kPerfil},
+};
+static_assert(CamposBienFormados(kCamposFrmForjAcer));
+
+constexpr CampoDef kCamposFrmEscMet[] = {
+    {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
+    {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
+    {"txtSolado", {}, kTexto, {"1.00"}}, {"txtSobrUso", {}, kTexto, {"4.00"}}, {"txtAncho", {1, 0}, kTexto, {"1.00"}},
+    {"TxCotaH2", {0, 1, 2, 3, 4}, kTexto, {"1.10", "2.25", "1.10", "1.4", "1.4"}}, {"OptH2izqS", {1, 0}, kOpcion},
+    {"OptH2izqI", {0, 1}, kOpcion}, {"OptH2der", {0, 1}, kOpcion},
+    {"TxCotaH1", {0, 1, 2, 3}, kTexto, {"1.10", "3.10", "1.10", "2.00"}}, {"OptH1izq", {0, 1}, kOpcion},
+    {"OptH1der", {1, 0}, kOpcion}, {"TxCotaRampa", {0, 1}, kTexto, {"6.25", "1.00"}}, {"OptRampaApoIzq", {1, 0}, kOpcion},
+    {"OptRampaApoDer", {0, 1}, kOpcion}, {"TxCotaDesc", {0, 1, 2, 3, 4}, kTexto, {"2.25", "1.10", "2.25", "1.40", "1.40"}},
+    {"OptDApoIzq", {2, 0}, kOpcion}, {"OptDApoDer", {0, 2}, kOpcion},
+};
+static_assert(CamposBienFormados(kCamposFrmEscMet));
+
+constexpr CampoDef kCamposFrmVigMade[] = {
+    {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
+    {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
+    {"CmbCargaComp", {}, kLista}, {"txtResF2", {}, kTexto}, {"txtResF1", {}, kTexto}, {"CmbUso", {}, kLista},
+    {"txtEF", {}, kTexto, {"60"}}, {"txtTitulo", {}, kTexto}, {"ChVigDer", {}, kCasilla}, {"TxCota", {4, 0}, kTexto, {"1.10"}},
+    {"TxtQ", {6, 5}, kTexto, {"4"}}, {"CmTramos", {}, kLista}, {"TxtQ", {4, 0, 3}, kTexto, {"1", "1", "1.5"}},
+    {"TxCota", {3}, kTexto, {" 2.00"}}, {"TxtQ", {2}, kTexto, {"1.2"}}, {"TxCota", {2}, kTexto, {" 2.00"}},
+    {"ChPilDer", {}, kCasilla}, {"ChPilIzq", {}, kCasilla}, {"ChVigIzq", {}, kCasilla}, {"TextDviga", {1, 0}, kTexto, {"50", "30"}},
+    {"TxCota", {1}, kTexto, {" 5.50"}}, {"TxtQ", {1}, kTexto, {"2.1"}},
+};
+static_assert(CamposBienFormados(kCamposFrmVigMade));
+
+constexpr CampoDef kCamposFrmPilMade[] = {
+    {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
+    {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
+    {"ChkArriostradaX", {}, kCasilla}, {"ChkArriostradaY", {}, kCasilla}, {"CmbForma", {}, kLista},
+    {"txtTramo", {4, 3, 0}, kTexto, {"30"}}, {"CmbUso", {}, kLista}, {"txtEF", {}, kTexto, {"30"}},
+    {"TxtPorcent", {}, kTexto, {"100"}},
+    {"LePil", {8, 9, 10, 11, 0, 1, 2, 3, 4, 5, 6, 7}, kTexto, {"5.15", "1.00", "4.50", "4.50", "4.50", "4.50", "5.00", "5.00"}},
+    {"cmbesviada", {}, kLista}, {"LePil", {12}, kTexto, {"3.10"}}, {"ChRotI", {}, kCasilla}, {"ChRotS", {}, kCasilla},
+    {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla}, {"OpPosPil", {2, 1, 0}, kOpcion},
+    {"txtTitulo", {}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmPilMade));
+
+constexpr CampoDef kCamposFrmForMade[] = {
+    {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
+    {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
+    {"LblTab", {}, kTexto, {"TABLERO INSUFICIENTE"}}, {"ChInclinado", {}, kCasilla},
+    {"txtForj", {4, 3, 2, 0, 1}, kTexto, {"0", "2.5", "18", "10", "40"}}, {"txtTitulo", {}, kTexto},
+    {"OpTramo", {5}, kOpcion}, {"TxTrAd", {1, 0}, kTexto, {"4.8"}}, {"OpTramo", {0, 1, 2, 3, 4}, kOpcion},
+    {"TxCota", {2, 3}, kTexto, {"1.10"}}, {"ChVigDer", {}, kCasilla}, {"TxtQ", {4, 3}, kTexto, {"0.2"}}, {"ChVigIzq", {}, kCasilla},
+    {"TextDviga", {0, 1}, kTexto, {"10", "18"}}, {"TxtPil", {1, 0}, kTexto, {"30"}}, {"TxtQ", {2, 1}, kTexto, {"500"}},
+    {"TxCota", {0}, kTexto, {"2.00"}}, {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}},
+    {"txtEF", {}, kTexto, {"60"}}, {"CmbUso", {}, kLista}, {"txtResF1", {}, kTexto}, {"txtResF2", {}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmForMade));
+
+constexpr CampoDef kCamposFrmEscMade[] = {
+    {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
+    {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
+};
+static_assert(CamposBienFormados(kCamposFrmEscMade));
+
 }  // namespace
 
 const std::vector<TablaForm>& TablasAceroMadera()
 {
     static const std::vector<TablaForm> tablas = {
-        {"frmVigMet", {
-            {"cmbClase", {}, kLista}, {"UCPerfil1", {}, kPerfil}, {"TxtQ", {1}, kTexto, {"2.1"}}, {"TxCota", {1}, kTexto, {" 5.50"}},
-            {"TxtPil", {0, 1}, kTexto, {"30"}}, {"ChVigIzq", {}, kCasilla}, {"ChPilIzq", {}, kCasilla}, {"ChPilDer", {}, kCasilla},
-            {"ChVigDer", {}, kCasilla}, {"TxCota", {2}, kTexto, {" 2.00"}}, {"TxtQ", {2}, kTexto, {"1.2"}},
-            {"TxCota", {3}, kTexto, {" 2.00"}}, {"TxtQ", {3, 0, 4}, kTexto, {"1.5", "1", "1"}}, {"CmTramos", {}, kLista},
-            {"TxtQ", {5, 6}, kTexto, {"40"}}, {"TxCota", {0, 4}, kTexto, {"1.10"}}, {"txtTitulo", {}, kTexto}, {"cmbPart", {}, kLista},
-            {"CmbCaso", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbPlanta", {}, kLista}, {"TxtRes4", {}, kTexto}, {"TxtRes3", {}, kTexto},
-            {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto},
-        },
+        {"frmVigMet", kCamposFrmVigMet,
          // Reasoned caption and title for the steel beam, after the concrete beam's.
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
@@ -35,30 +130,14 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
          Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}),
          MenuDef{"Acero", 1, "mnuVigMet", ""}},
-        {"frmPilMet", {
-            {"UCViga", {1, 3}, kPerfil}, {"cmbClase", {}, kLista}, {"UCViga", {0}, kPerfil}, {"txtCurvaY", {}, kTexto, {"c"}},
-            {"txtCurvaX", {}, kTexto, {"c"}}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
-            {"ChkArriostradaX", {}, kCasilla}, {"ChkArriostradaY", {}, kCasilla}, {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto},
-            {"OpPosPil", {0, 1, 2}, kOpcion}, {"LePil", {12}, kTexto, {"3.10"}}, {"ChRotS", {}, kCasilla}, {"ChRotI", {}, kCasilla},
-            {"ChPilSup", {}, kCasilla}, {"TxtQ", {0, 3, 1, 2}, kTexto, {"800", "40", "0", "0"}},
-            {"LePil", {7, 6, 5, 4, 3, 2, 1, 0, 11, 10, 9, 8}, kTexto, {"1.10", "1.10", "4.50", "5.00", "5.00", "5.00", "4.50", "4.50"}},
-            {"UCViga", {2}, kPerfil}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes2", {}, kTexto},
-            {"TxtRes1", {}, kTexto},
-        },
+        {"frmPilMet", kCamposFrmPilMet,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
          Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}),
          MenuDef{"Acero", 2, "mnuPilMet", ""}},
-        {"frmBasMet", {
-            {"CmbTornillos", {}, kLista}, {"CmbAcero", {}, kLista}, {"TxtRes1", {2, 0, 1}, kTexto},
-            {"TxCota", {2, 4}, kTexto, {"1.8", "20"}}, {"Text1", {}, kTexto, {"80"}}, {"TxMy", {}, kTexto, {"2"}},
-            {"TxMx", {}, kTexto, {"2"}}, {"TxEspCartY", {}, kTexto, {"1.2"}}, {"TxEspCartX", {}, kTexto, {"1.2"}},
-            {"TxNumTorY", {}, kTexto, {"2"}}, {"TxNumTorX", {}, kTexto, {"2"}}, {"ChY", {}, kCasilla}, {"ChX", {}, kCasilla},
-            {"TxCotaCartY", {1, 0}, kTexto, {"15", "10"}}, {"UCPerfil1", {}, kPerfil}, {"TxCota", {3}, kTexto, {"25"}},
-            {"TxCotaCartX", {1, 0}, kTexto, {"15", "10"}}, {"TxCota", {1, 0}, kTexto, {"50", "60"}}, {"txtTitulo", {}, kTexto},
-        },
+        {"frmBasMet", kCamposFrmBasMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Bases metálicas", "Base pilar 01", kNada, kNada,
          Listas{{"CmbTornillos", -1, kTornillos}} + ListasAcero(),
@@ -83,15 +162,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kTx, "TxtRes1", 2, "Cartelas"},
          }),
          MenuDef{"Acero", 3, "mnuBasMet", ""}},
-        {"frmForjAcer", {
-            {"cmbPart", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbAcero", {}, kLista}, {"CmbCaso", {}, kLista}, {"TxtRes3", {}, kTexto},
-            {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {2, 1, 0}, kOpcion},
-            {"ChInclinado", {}, kCasilla}, {"txtForj", {4, 3, 2, 1}, kTexto, {"0", "2.5", "18", "40"}}, {"txtTitulo", {}, kTexto},
-            {"OpTramo", {5}, kOpcion}, {"TxTrAd", {1, 0}, kTexto, {"4.8"}}, {"OpTramo", {0, 1, 2, 3, 4}, kOpcion},
-            {"cmbClase", {}, kLista}, {"TxCota", {3, 2}, kTexto, {"1.10"}}, {"ChVigDer", {}, kCasilla}, {"ChVigIzq", {}, kCasilla},
-            {"TxtQ", {4, 3, 2, 1}, kTexto, {"0.2", "0.2", "500", "500"}}, {"TxCota", {0}, kTexto, {"2.00"}},
-            {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}}, {"UCPerfil1", {}, kPerfil},
-        },
+        {"frmForjAcer", kCamposFrmForjAcer,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
          ListasAcero() + ListasViga(),
@@ -100,17 +171,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kCk, "ChInclinado", -1, "Correas"},
          }),
          MenuDef{"Acero", 4, "mnuForjAcer", ""}},
-        {"frmEscMet", {
-            {"CmbAcero", {}, kLista}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtRes4", {}, kTexto},
-            {"UCPerfil1", {}, kPerfil}, {"txtTitulo", {}, kTexto}, {"OptLosa", {0, 3, 1, 2}, kOpcion},
-            {"txtSolado", {}, kTexto, {"1.00"}}, {"txtSobrUso", {}, kTexto, {"4.00"}}, {"txtAncho", {1, 0}, kTexto, {"1.00"}},
-            {"TxCotaH2", {0, 1, 2, 3, 4}, kTexto, {"1.10", "2.25", "1.10", "1.4", "1.4"}}, {"OptH2izqS", {1, 0}, kOpcion},
-            {"OptH2izqI", {0, 1}, kOpcion}, {"OptH2der", {0, 1}, kOpcion},
-            {"TxCotaH1", {0, 1, 2, 3}, kTexto, {"1.10", "3.10", "1.10", "2.00"}}, {"OptH1izq", {0, 1}, kOpcion},
-            {"OptH1der", {1, 0}, kOpcion}, {"TxCotaRampa", {0, 1}, kTexto, {"6.25", "1.00"}}, {"OptRampaApoIzq", {1, 0}, kOpcion},
-            {"OptRampaApoDer", {0, 1}, kOpcion}, {"TxCotaDesc", {0, 1, 2, 3, 4}, kTexto, {"2.25", "1.10", "2.25", "1.40", "1.40"}},
-            {"OptDApoIzq", {2, 0}, kOpcion}, {"OptDApoDer", {0, 2}, kOpcion},
-        },
+        {"frmEscMet", kCamposFrmEscMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
          ListasAcero(),
@@ -122,16 +183,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kOp, "OptLosa", 3, "Rampa"},
          }),
          MenuDef{"Acero", 5, "mnuEscMet", ""}},
-        {"frmVigMade", {
-            {"cmbPart", {}, kLista}, {"CmbResis", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbPlanta", {}, kLista},
-            {"TxtRes4", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto},
-            {"CmbCargaComp", {}, kLista}, {"txtResF2", {}, kTexto}, {"txtResF1", {}, kTexto}, {"CmbUso", {}, kLista},
-            {"txtEF", {}, kTexto, {"60"}}, {"txtTitulo", {}, kTexto}, {"ChVigDer", {}, kCasilla}, {"TxCota", {4, 0}, kTexto, {"1.10"}},
-            {"TxtQ", {6, 5}, kTexto, {"4"}}, {"CmTramos", {}, kLista}, {"TxtQ", {4, 0, 3}, kTexto, {"1", "1", "1.5"}},
-            {"TxCota", {3}, kTexto, {" 2.00"}}, {"TxtQ", {2}, kTexto, {"1.2"}}, {"TxCota", {2}, kTexto, {" 2.00"}},
-            {"ChPilDer", {}, kCasilla}, {"ChPilIzq", {}, kCasilla}, {"ChVigIzq", {}, kCasilla}, {"TextDviga", {1, 0}, kTexto, {"50", "30"}},
-            {"TxCota", {1}, kTexto, {" 5.50"}}, {"TxtQ", {1}, kTexto, {"2.1"}},
-        },
+        {"frmVigMade", kCamposFrmVigMade,
          // Reasoned titles for the timber forms, after the concrete and steel ones.
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Viga de Madera", "Viga Madera. P 01-02", kNada, kMinimosVano,
@@ -144,17 +196,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kTx, "TextDviga", 1, "Canto h (cm)"},
          }),
          MenuDef{"Madera", 1, "mnuVigMade", ""}},
-        {"frmPilMade", {
-            {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes1", {}, kTexto},
-            {"TxtRes2", {}, kTexto}, {"TxtRes3", {}, kTexto}, {"TxtBetaX", {}, kTexto, {"0"}}, {"TxtBetaY", {}, kTexto, {"0"}},
-            {"ChkArriostradaX", {}, kCasilla}, {"ChkArriostradaY", {}, kCasilla}, {"CmbForma", {}, kLista},
-            {"txtTramo", {4, 3, 0}, kTexto, {"30"}}, {"CmbUso", {}, kLista}, {"txtEF", {}, kTexto, {"30"}},
-            {"TxtPorcent", {}, kTexto, {"100"}},
-            {"LePil", {8, 9, 10, 11, 0, 1, 2, 3, 4, 5, 6, 7}, kTexto, {"5.15", "1.00", "4.50", "4.50", "4.50", "4.50", "5.00", "5.00"}},
-            {"cmbesviada", {}, kLista}, {"LePil", {12}, kTexto, {"3.10"}}, {"ChRotI", {}, kCasilla}, {"ChRotS", {}, kCasilla},
-            {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla}, {"OpPosPil", {2, 1, 0}, kOpcion},
-            {"txtTitulo", {}, kTexto},
-        },
+        {"frmPilMade", kCamposFrmPilMade,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
          Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
@@ -164,17 +206,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
          }),
          MenuDef{"Madera", 2, "mnuPilMade", ""}},
-        {"frmForMade", {
-            {"Combo1", {}, kLista}, {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
-            {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"OpFlexLat", {0, 1, 2}, kOpcion},
-            {"LblTab", {}, kTexto, {"TABLERO INSUFICIENTE"}}, {"ChInclinado", {}, kCasilla},
-            {"txtForj", {4, 3, 2, 0, 1}, kTexto, {"0", "2.5", "18", "10", "40"}}, {"txtTitulo", {}, kTexto},
-            {"OpTramo", {5}, kOpcion}, {"TxTrAd", {1, 0}, kTexto, {"4.8"}}, {"OpTramo", {0, 1, 2, 3, 4}, kOpcion},
-            {"TxCota", {2, 3}, kTexto, {"1.10"}}, {"ChVigDer", {}, kCasilla}, {"TxtQ", {4, 3}, kTexto, {"0.2"}}, {"ChVigIzq", {}, kCasilla},
-            {"TextDviga", {0, 1}, kTexto, {"10", "18"}}, {"TxtPil", {1, 0}, kTexto, {"30"}}, {"TxtQ", {2, 1}, kTexto, {"500"}},
-            {"TxCota", {0}, kTexto, {"2.00"}}, {"TxtQ", {0}, kTexto, {"0"}}, {"TxCota", {1}, kTexto, {"4.50"}},
-            {"txtEF", {}, kTexto, {"60"}}, {"CmbUso", {}, kLista}, {"txtResF1", {}, kTexto}, {"txtResF2", {}, kTexto},
-        },
+        {"frmForMade", kCamposFrmForMade,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
          Listas{{"CmbResis", -1, kResistenciaIdemAlFinal}, {"CmbServi", -1, kServicioIdemAlFinal}, {"Combo1", -1, kParticionMadera}} + ListasMadera(),
@@ -188,10 +220,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
              {kTx, "TextDviga", 1, "Canto vigueta h (cm)"},
          }),
          MenuDef{"Madera", 3, "mnuForMade", ""}},
-        {"frmEscMade", {
-            {"CmbPlanta", {}, kLista}, {"CmbServi", {}, kLista}, {"CmbResis", {}, kLista}, {"TxtRes3", {}, kTexto},
-            {"TxtRes2", {}, kTexto}, {"TxtRes1", {}, kTexto}, {"TxtRes4", {}, kTexto}, {"txtTitulo", {}, kTexto},
-        },
+        {"frmEscMade", kCamposFrmEscMade,
          {true, true, PasoComprobacion::Bandera, true},
          "Escalera de Madera", "Escalera Madera 01", kNada, kNada,
          ListasMadera(),
