@@ -203,6 +203,16 @@ struct GrupoDef {
     std::span<const std::string_view> controles;
 };
 
+// The groups every element window has besides its own: first its identity (title and level)
+// and its materials, last the results of its check. A name ending in "*" stands for every
+// control whose name begins with the rest.
+inline constexpr std::string_view kCamposIdentidad[] = {"txtTitulo", "CmbPlanta"};
+inline constexpr std::string_view kCamposMateriales[] = {"CmbHorm",        "CmbAcero", "cmbControl", "CmbRecub",
+                                                         "cmbAceroPerfil", "CmbResis", "CmbServi",   "CmbAcP"};
+inline constexpr std::string_view kCamposResultados[] = {"TxtRes*", "RichTextBox*"};
+inline constexpr GrupoDef kGruposAlPrincipio[] = {{"", 1500, kCamposIdentidad}, {"", 1501, kCamposMateriales}};
+inline constexpr GrupoDef kGruposAlFinal[] = {{"UCframe2", 1508, kCamposResultados}};
+
 // The definition of a form: its name, its stored fields in the order of its
 // record, its life cycle, its window's caption and the design text of its title, its own
 // defaults, the minimums its check compares, the rows of its lists, what each of its load

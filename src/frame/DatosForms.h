@@ -21,6 +21,8 @@ void DefaultsGenerales(Form& form);
 // Adds the form's non-stored unit controls: the hidden factor labels LbQSI(i) beside each
 // TxtQ(i) and the paired unit labels lbST(i)/lbSI(i).
 void ControlesUnidades(Form& form);
+// The unit labels that ControlesUnidades adds beside the load fields.
+bool EsEtiquetaDeUnidad(std::string_view nombre);
 
 struct Minimo {
     std::string control;

@@ -70,4 +70,9 @@ void ControlesUnidades(Form& form)
     }
 }
 
+bool EsEtiquetaDeUnidad(std::string_view nombre)
+{
+    return nombre == "LbQSI" || nombre == "lbST" || nombre == "lbSI";
+}
+
 }  // namespace vardena

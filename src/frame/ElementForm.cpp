@@ -102,18 +102,23 @@ void ElementForm::CreaCampo(const CampoDef& campo, int index, size_t miembro)
         InstalaControlCompuesto(c);
 }
 
+bool EsDelMarco(std::string_view nombre)
+{
+    for (const ControlDelMarco& m : kMarcoElemento)
+        if (m.nombre == nombre)
+            return true;
+    return false;
+}
+
 void ElementForm::CreaMarco()
 {
-    Add(Kind::ListBox, "List1").SetToolTipText("Click para ver y doble Click para borrar");
-    Add(Kind::CommandButton, "CmdCalcular").SetCaption("CONVERTIR");
-    Add(Kind::CommandButton, "Listado1").SetCaption("Listado");
-    Add(Kind::CommandButton, "CmdSalir").SetCaption("SALIR");
-    Add(Kind::CommandButton, "UCBhelp");
-    Add(Kind::Label, "Lbvers").SetCaption("vers: ");
-    Add(Kind::RichTextBox, "RichTextBox1").SetVisible(false);
-    Add(Kind::Frame, "Frm1");
-    Add(Kind::Frame, "UCframeRecDat").SetCaption("Recuperar datos");
-    Add(Kind::Frame, "UCframe2").SetCaption("Resultados");
+    for (const ControlDelMarco& m : kMarcoElemento) {
+        Control& c = Add(m.kind, std::string(m.nombre));
+        if (!m.caption.empty())
+            c.SetCaption(std::string(m.caption));
+    }
+    At("List1").SetToolTipText("Click para ver y doble Click para borrar");
+    At("RichTextBox1").SetVisible(false);
 }
 
 void ElementForm::ConectaEventos()

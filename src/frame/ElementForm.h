@@ -99,6 +99,22 @@ private:
     std::string guardado_;
 };
 
+// The controls that every element window has besides its fields: they make its frame (the
+// record list, the buttons, the version, the result view), not its data.
+struct ControlDelMarco {
+    Kind kind;
+    std::string_view nombre;
+    std::string_view caption;
+};
+inline constexpr ControlDelMarco kMarcoElemento[] = {
+    {Kind::ListBox, "List1", ""},           {Kind::CommandButton, "CmdCalcular", "CONVERTIR"},
+    {Kind::CommandButton, "Listado1", "Listado"}, {Kind::CommandButton, "CmdSalir", "SALIR"},
+    {Kind::CommandButton, "UCBhelp", ""},   {Kind::Label, "Lbvers", "vers: "},
+    {Kind::RichTextBox, "RichTextBox1", ""}, {Kind::Frame, "Frm1", ""},
+    {Kind::Frame, "UCframeRecDat", "Recuperar datos"}, {Kind::Frame, "UCframe2", "Resultados"},
+};
+bool EsDelMarco(std::string_view nombre);
+
 // Keys that cannot stand in a file name; txtTitulo swallows them.
 bool TeclaProhibidaEnTitulo(int keyAscii);
 

@@ -2,23 +2,18 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 #include <string_view>
 
 #include "base/FileIo.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "frame/DatosForms.h"
+#include "frame/ElementForm.h"
 #include "works/Declaraciones.h"
 
 namespace vardena {
 namespace {
-
-// Controls that every element window has: they make its frame, not its data.
-const std::set<std::string, std::less<>> kMarco = {"List1",        "CmdCalcular", "Listado1", "CmdSalir",     "UCBhelp",
-                                                   "Lbvers",       "RichTextBox1", "Frm1",    "UCframeRecDat", "UCframe2"};
-const std::set<std::string, std::less<>> kMateriales = {"CmbHorm",  "CmbAcero", "cmbControl", "CmbRecub",
-                                                        "cmbAceroPerfil", "CmbResis", "CmbServi", "CmbAcP"};
-// Unit labels stand beside the load field of their index.
-const std::set<std::string, std::less<>> kUnidades = {"LbQSI", "lbST", "lbSI"};
 
 bool EsRefuerzo(Kind k) { return k == Kind::UCNumDiam || k == Kind::UCNumDiamSep || k == Kind::UCZapatas || k == Kind::UCMallazo; }
 
@@ -36,14 +31,21 @@ std::string TituloDeArray(const Form& form, const std::string& nombre)
     return nombre;
 }
 
-// The groups that the form's definition declares, with the controls they take.
-std::vector<GrupoCampos> GruposDeclarados(const Form& form, std::set<const Control*>& tomados)
+// Whether a name of a declared group stands for the control: its own name, or "Name*" for
+// every name that begins with "Name".
+bool Nombra(std::string_view patron, const std::string& nombre)
+{
+    if (!patron.empty() && patron.back() == '*')
+        return StartsWithNoCase(nombre, patron.substr(0, patron.size() - 1));
+    return nombre == patron;
+}
+
+// The declared groups with the controls they take: those not taken yet, not of the window's
+// frame and no unit labels.
+std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> defs, std::set<const Control*>& tomados)
 {
     std::vector<GrupoCampos> out;
-    const TablaForm* tabla = TablaCampos(form.Name());
-    if (!tabla)
-        return out;
-    for (const GrupoDef& def : tabla->grupos) {
+    for (const GrupoDef& def : defs) {
         GrupoCampos g;
         const Control* marco = def.marco.empty() ? nullptr : form.Find(std::string(def.marco));
         g.titulo = marco ? marco->Caption() : form.decl().Msg(def.mensaje);
@@ -55,10 +57,14 @@ std::vector<GrupoCampos> GruposDeclarados(const Form& form, std::set<const Contr
             }
             std::vector<Control*> miembros;
             for (Control* c : form.Controls())
-                if (c->Name() == nombre && (index < 0 || c->Index() == index) && !tomados.count(c))
+                if (Nombra(nombre, c->Name()) && (index < 0 || c->Index() == index) && !tomados.count(c) &&
+                    !EsDelMarco(c->Name()) && !EsEtiquetaDeUnidad(c->Name()))
                     miembros.push_back(c);
-            std::stable_sort(miembros.begin(), miembros.end(),
-                             [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
+            // The members of an array in index order, as a reader counts them; the controls a
+            // pattern names in the form's order.
+            if (nombre.empty() || nombre.back() != '*')
+                std::stable_sort(miembros.begin(), miembros.end(),
+                                 [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
             for (Control* c : miembros) {
                 tomados.insert(c);
                 g.miembros.push_back(c);
@@ -94,29 +100,24 @@ int AltoDeGrupo(const GrupoCampos& g)
 std::vector<GrupoCampos> AgrupaCampos(const Form& form)
 {
     const Declaraciones& d = form.decl();
-    std::vector<GrupoCampos> fijos = {{d.Msg(1500), {}}, {d.Msg(1501), {}}, {d.Msg(1502), {}}, {d.Msg(1503), {}},
-                                      {d.Msg(1504), {}}};
+    std::set<const Control*> tomados;
+    const TablaForm* tabla = TablaCampos(form.Name());
+    std::vector<GrupoCampos> out = Declarados(form, tabla ? tabla->grupos : std::span<const GrupoDef>(), tomados);
+    for (GrupoCampos& g : Declarados(form, kGruposAlPrincipio, tomados))
+        out.push_back(std::move(g));
+    const std::vector<GrupoCampos> finales = Declarados(form, kGruposAlFinal, tomados);
+    // What no group declares goes by its kind.
+    std::vector<GrupoCampos> porTipo = {{d.Msg(1502), {}}, {d.Msg(1503), {}}, {d.Msg(1504), {}}};
     std::vector<GrupoCampos> familias;
     GrupoCampos armaduras{d.Msg(1505), {}}, perfiles{d.Msg(1506), {}}, ordenes{d.Msg(1507), {}};
-    std::set<const Control*> tomados;
-    std::vector<GrupoCampos> declarados = GruposDeclarados(form, tomados);
-    const Control* marcoResultados = form.Find("UCframe2");
-    GrupoCampos resultados{marcoResultados ? marcoResultados->Caption() : d.Msg(1508), {}};
     for (Control* c : form.Controls()) {
         const std::string& n = c->Name();
-        if (tomados.count(c) || kMarco.count(n) || kUnidades.count(n))
+        if (tomados.count(c) || EsDelMarco(n) || EsEtiquetaDeUnidad(n))
             continue;
-        if (StartsWithNoCase(n, "TxtRes")) {
-            resultados.miembros.push_back(c);
-        } else if (n == "txtTitulo" || n == "CmbPlanta") {
-            fijos[0].miembros.push_back(c);
-        } else if (kMateriales.count(n)) {
-            fijos[1].miembros.push_back(c);
-        } else if (c->kind() == Kind::CommandButton) {
+        if (c->kind() == Kind::CommandButton) {
             ordenes.miembros.push_back(c);
-        } else if (c->kind() == Kind::RichTextBox) {
-            resultados.miembros.push_back(c);
-        } else if (c->kind() == Kind::Label || c->kind() == Kind::PictureBox || c->kind() == Kind::Frame) {
+        } else if (c->kind() == Kind::Label || c->kind() == Kind::PictureBox || c->kind() == Kind::Frame ||
+                   c->kind() == Kind::RichTextBox) {
             // Captions and frames of the designed window: the grouping here takes their place.
             continue;
         } else if (EsRefuerzo(c->kind()) && c->Index() < 0) {
@@ -131,24 +132,23 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
             else
                 it->miembros.push_back(c);
         } else if (c->kind() == Kind::TextBox) {
-            fijos[2].miembros.push_back(c);
+            porTipo[0].miembros.push_back(c);
         } else if (c->kind() == Kind::ComboBox || c->kind() == Kind::ListBox) {
-            fijos[3].miembros.push_back(c);
+            porTipo[1].miembros.push_back(c);
         } else {
-            fijos[4].miembros.push_back(c);
+            porTipo[2].miembros.push_back(c);
         }
     }
     // The members of an array in index order, as a reader counts them.
     for (GrupoCampos& g : familias)
         std::stable_sort(g.miembros.begin(), g.miembros.end(),
                          [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
-    std::vector<GrupoCampos> out = std::move(declarados);
-    for (GrupoCampos& g : fijos)
-        out.push_back(std::move(g));
-    for (GrupoCampos& g : familias)
-        out.push_back(std::move(g));
-    for (GrupoCampos* g : {&armaduras, &perfiles, &ordenes, &resultados})
+    for (auto* grupos : {&porTipo, &familias})
+        for (GrupoCampos& g : *grupos)
+            out.push_back(std::move(g));
+    for (GrupoCampos* g : {&armaduras, &perfiles, &ordenes})
         out.push_back(std::move(*g));
+    out.insert(out.end(), finales.begin(), finales.end());
     out.erase(std::remove_if(out.begin(), out.end(), [](const GrupoCampos& g) { return g.miembros.empty(); }), out.end());
     return out;
 }
