@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <initializer_list>
 #include <span>
 #include <stdexcept>
@@ -235,6 +236,9 @@ struct TablaForm {
     std::vector<ControlVisible> visibles;
     MenuDef menu = {};  // no command for a form the menu does not open
     std::span<const GrupoDef> grupos = {};  // its window's own groups, first
+    // The class of a form with logic of its own, made from its definition; nullptr for a form
+    // that is only data, which the plain element form runs.
+    std::unique_ptr<Form> (*crea)(Declaraciones&, const TablaForm&) = nullptr;
 };
 
 

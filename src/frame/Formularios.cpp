@@ -19,9 +19,8 @@ struct FormPropio {
     Fabrica crea;
 };
 
-// Forms with a class of their own. Every other form of the field tables is a plain
-// ElementForm built from its table; an element that gets its own change logic and calculation
-// adds its subclass here.
+// Forms with a class of their own and no element definition: the general data and the
+// dialogs. An element form with logic of its own names its class in its definition.
 const std::vector<FormPropio>& FormsPropios()
 {
     static const std::vector<FormPropio> propios = {
@@ -72,7 +71,7 @@ std::unique_ptr<Form> CreaForm(Declaraciones& d, std::string_view name)
         if (p.nombre == name)
             return p.crea(d);
     if (const TablaForm* tabla = TablaCampos(name))
-        return std::make_unique<ElementForm>(d, *tabla);
+        return tabla->crea ? tabla->crea(d, *tabla) : std::make_unique<ElementForm>(d, *tabla);
     return nullptr;
 }
 
