@@ -11,6 +11,7 @@
 #include "controls/UiQt.h"
 #include "application/Aplicacion.h"
 #include "base/FileIo.h"
+#include "base/Texto.h"
 #include "works/Subrut.h"
 
 namespace vardena {
@@ -80,7 +81,11 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
              for (int i = 0; i < p.ListCount(); ++i)
                  if (p.List(i) == "Granada")
                      p.SetListIndex(i);
+             // The first municipality under the heading.
              Control& t = f.At("RichTextBox1");
+             const size_t b = t.Text().find("\nGranada ");
+             if (b != std::string::npos)
+                 t.SetSelStart(CharCount(t.Text().substr(0, b + 1)));
              t.Click();
          }},
     };
@@ -89,8 +94,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         std::unique_ptr<Form> form = CargaForm(programa.app().decl, nombre);
         if (!form)
             continue;
-        std::unique_ptr<QDialog> d = CreaDialogo(*form, nullptr);
         elige(*form);
+        std::unique_ptr<QDialog> d = CreaDialogo(*form, nullptr);
         escritas.push_back(Fotografia(d.get(), carpeta, std::to_string(n++) + "-" + nombre));
         d->hide();
     }

@@ -155,7 +155,10 @@ QWidget* Valor(VistaForm& v, const char* nombre)
 QHBoxLayout* Fila(VistaForm& v, const char* etiqueta, const char* valor)
 {
     auto* h = new QHBoxLayout();
-    h->addWidget(v.Widget(etiqueta));
+    auto* e = qobject_cast<QLabel*>(v.Widget(etiqueta));
+    e->setWordWrap(false);
+    e->setMinimumWidth(e->fontMetrics().horizontalAdvance(e->text()) + 8);
+    h->addWidget(e);
     h->addWidget(Valor(v, valor));
     h->addStretch();
     return h;
