@@ -3,7 +3,7 @@
 #   scripts/install-deps.sh          build and run
 #   scripts/install-deps.sh --tests  also what the test suite uses (LibreOffice for the RTF check)
 set -euo pipefail
-packages=(cmake ninja-build g++ clang libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libjpeg-dev
+packages=(cmake ninja-build g++ clang libgtest-dev libgmock-dev libbenchmark-dev zlib1g-dev libpng-dev libjpeg-dev
           libcurl4-openssl-dev qt6-base-dev)
 if [[ "${1:-}" == "--tests" ]]; then
   packages+=(libreoffice-writer-nogui)

@@ -1,5 +1,6 @@
 #include "base/Form.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/FileIo.h"
@@ -33,6 +34,9 @@ constexpr std::array<KindInfo, 15> kKinds = {{
 }};
 
 bool EqNoCase(std::string_view a, std::string_view b) { return SameNameNoCase(a, b); }
+
+// The kinds that have a caret and a selection.
+bool TieneCursor(Kind k) { return k == Kind::TextBox || k == Kind::RichTextBox; }
 
 // Design-time defaults of the composite controls.
 struct CompositeDefault {
@@ -244,6 +248,20 @@ void Control::SetOptionValue(bool v)
     }
 }
 
+void Control::SetSelStart(int start)
+{
+    selStart_ = std::clamp(start, 0, CharCount(text_));
+    selLength_ = 0;
+}
+
+void Control::SetSelLength(int length) { selLength_ = std::clamp(length, 0, CharCount(text_) - selStart_); }
+
+std::string Control::SelText() const
+{
+    const size_t from = CharOffset(text_, selStart_);
+    return text_.substr(from, CharOffset(text_, selStart_ + selLength_) - from);
+}
+
 void Control::SetCheckValue(int v)
 {
     if (v < 0 || v > 2)
@@ -292,6 +310,12 @@ std::string Control::Property(std::string_view prop) const
     }
     if (EqNoCase(prop, "Caption"))
         return caption_;
+    if (TieneCursor(kind_) && EqNoCase(prop, "SelStart"))
+        return std::to_string(selStart_);
+    if (TieneCursor(kind_) && EqNoCase(prop, "SelLength"))
+        return std::to_string(selLength_);
+    if (TieneCursor(kind_) && EqNoCase(prop, "SelText"))
+        return SelText();
     if (EqNoCase(prop, "ToolTipText"))
         return toolTip_;
     if (EqNoCase(prop, "Visible"))
@@ -326,6 +350,10 @@ void Control::SetProperty(std::string_view prop, std::string_view value)
         }
     } else if (EqNoCase(prop, "Caption")) {
         caption_ = v;
+    } else if (TieneCursor(kind_) && EqNoCase(prop, "SelStart")) {
+        SetSelStart(static_cast<int>(ValComa(v)));
+    } else if (TieneCursor(kind_) && EqNoCase(prop, "SelLength")) {
+        SetSelLength(static_cast<int>(ValComa(v)));
     } else if (EqNoCase(prop, "ToolTipText")) {
         toolTip_ = v;
     } else if (EqNoCase(prop, "Visible")) {
@@ -381,6 +409,13 @@ void Control::RaiseChange()
 {
     if (onChange)
         onChange(*this);
+}
+
+void Control::ClickAt(int x, int y)
+{
+    if (onMouseDown)
+        onMouseDown(*this, x, y);
+    Click();
 }
 
 Form::Form(Declaraciones& decl, std::string name, std::string caption)

@@ -104,6 +104,15 @@ public:
     const std::string& Group() const { return group_.empty() ? name_ : group_; }
     void SetGroup(std::string g) { group_ = std::move(g); }
 
+    // Text boxes and rich text boxes: the caret and the selection, in characters of Text.
+    // SelStart is held to 0..length and SelLength to what follows the caret.
+    int SelStart() const { return selStart_; }
+    void SetSelStart(int start);
+    int SelLength() const { return selLength_; }
+    void SetSelLength(int length);
+    // The selected characters.
+    std::string SelText() const;
+
     // Check box: 0, 1 or 2.
     int CheckValue() const { return checkValue_; }
     void SetCheckValue(int v);
@@ -143,6 +152,8 @@ public:
     std::function<void(Control&, int& key)> onKeyPress;
     std::function<void(Control&, int key)> onKeyDown;
     std::function<void(Control&)> onLostFocus;
+    // A press of the mouse on a picture, at (x, y) in pixels of its picture.
+    std::function<void(Control&, int x, int y)> onMouseDown;
 
     // Raise the events as the user's actions would.
     void Click();
@@ -151,6 +162,8 @@ public:
     int KeyPress(int key);
     void KeyDown(int key);
     void RaiseChange();
+    // A click on a picture at (x, y): MouseDown there, then Click.
+    void ClickAt(int x, int y);
 
 private:
     Form* form_;
@@ -163,6 +176,8 @@ private:
     std::vector<bool> selected_;
     bool optionValue_ = false;
     int checkValue_ = 0;
+    int selStart_ = 0;
+    int selLength_ = 0;
     std::string caption_;
     std::string toolTip_;
     bool visible_ = true;

@@ -184,4 +184,28 @@ std::string AcortaRuta(std::string_view path, int n)
     return out;
 }
 
+namespace {
+// True for the bytes that continue a UTF-8 character.
+bool Continua(unsigned char c) { return (c & 0xC0) == 0x80; }
+}  // namespace
+
+int CharCount(std::string_view text)
+{
+    int n = 0;
+    for (unsigned char c : text)
+        if (!Continua(c))
+            ++n;
+    return n;
+}
+
+size_t CharOffset(std::string_view text, int n)
+{
+    size_t i = 0;
+    for (int k = 0; k < n && i < text.size(); ++k)
+        do
+            ++i;
+        while (i < text.size() && Continua(static_cast<unsigned char>(text[i])));
+    return i;
+}
+
 }  // namespace vardena

@@ -40,6 +40,11 @@ std::string Palabra(int n, std::string_view text, std::string_view sep = " ");
 // Replaces every occurrence of the first character of `a` by the first character of `b`.
 std::string CambiaCar(std::string_view text, std::string_view a, std::string_view b);
 
+// Characters of a UTF-8 text, as a text box counts them (a byte that starts no character
+// counts as one), and the byte at which character `n` starts (the length past the end).
+int CharCount(std::string_view text);
+size_t CharOffset(std::string_view text, int n);
+
 // The folder separator of this platform; the program's paths are built with it.
 inline constexpr char kSep = '/';
 std::string ConBarra(std::string_view path);

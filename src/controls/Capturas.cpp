@@ -6,9 +6,12 @@
 #include <QPixmap>
 
 #include "controls/Programa.h"
+#include "controls/Ventanas.h"
+#include "frame/Formularios.h"
 #include "controls/UiQt.h"
 #include "application/Aplicacion.h"
 #include "base/FileIo.h"
+#include "base/Texto.h"
 #include "works/Subrut.h"
 
 namespace vardena {
@@ -61,6 +64,40 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         escritas.push_back(Fotografia(v, carpeta, nombre));
         v->alCerrar = nullptr;
         v->close();
+    }
+    // The map dialogs of the actions, each with a pick made as a user would make it.
+    const std::pair<const char*, std::function<void(Form&)>> dialogos[] = {
+        {"frmECGn",
+         [](Form& f) {
+             f.At("MapaNieve").ClickAt(330, 230);
+             Control& t = f.At("RichTextBox1");
+             t.SetSelStart(static_cast<int>(t.Text().find("Madrid")));
+             t.Click();
+         }},
+        {"frmECV", [](Form& f) { f.At("MapaViento").ClickAt(330, 230); }},
+        {"frmNCSE02",
+         [](Form& f) {
+             Control& p = f.At("CmbProv");
+             for (int i = 0; i < p.ListCount(); ++i)
+                 if (p.List(i) == "Granada")
+                     p.SetListIndex(i);
+             // The first municipality under the heading.
+             Control& t = f.At("RichTextBox1");
+             const size_t b = t.Text().find("\nGranada ");
+             if (b != std::string::npos)
+                 t.SetSelStart(CharCount(t.Text().substr(0, b + 1)));
+             t.Click();
+         }},
+    };
+    int n = 8;
+    for (const auto& [nombre, elige] : dialogos) {
+        std::unique_ptr<Form> form = CargaForm(programa.app().decl, nombre);
+        if (!form)
+            continue;
+        elige(*form);
+        std::unique_ptr<QDialog> d = CreaDialogo(*form, nullptr);
+        escritas.push_back(Fotografia(d.get(), carpeta, std::to_string(n++) + "-" + nombre));
+        d->hide();
     }
     DatosError e;
     e.numero = 75;

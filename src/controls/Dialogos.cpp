@@ -8,7 +8,9 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "building/Mapas.h"
 #include "building/SistUnid.h"
+#include "controls/DialogosMapas.h"
 #include "controls/Ventanas.h"
 #include "works/LngPack.h"
 #include "application/Mantenimiento.h"
@@ -149,6 +151,8 @@ std::unique_ptr<QDialog> CreaDialogo(Form& form, QWidget* parent)
 {
     if (auto* s = dynamic_cast<SistUnid*>(&form))
         return std::make_unique<DialogoSistUnid>(*s, parent);
+    if (auto* m = dynamic_cast<DialogoAcciones*>(&form))
+        return std::make_unique<DialogoMapas>(*m, parent);
     return std::make_unique<VentanaDialogo>(form, Cerrado(form), parent);
 }
 

@@ -319,6 +319,8 @@ void VentanaMenu::closeEvent(QCloseEvent* e)
 Programa::Programa(Aplicacion& app) : app_(app)
 {
     app_.decl.DoEvents = [] { QCoreApplication::processEvents(); };
+    // The dialogs a form opens (the maps of the actions) show modally over the window open now.
+    app_.decl.MuestraDialogo = [this](Form& f) { MuestraModal(f, actual_); };
     app_.platform.gui.ponEncima = [this](Form& f, bool on) {
         auto it = ventanas_.find(&f);
         if (it == ventanas_.end())
@@ -339,6 +341,7 @@ Programa::Programa(Aplicacion& app) : app_(app)
 Programa::~Programa()
 {
     app_.platform.gui.ponEncima = nullptr;
+    app_.decl.MuestraDialogo = nullptr;
     for (auto [form, w] : std::map<const Form*, QWidget*>(ventanas_))
         delete w;
 }

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "building/DatosGen.h"
+#include "building/Mapas.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
 #include "works/Catalogo.h"
@@ -25,6 +26,10 @@ const std::vector<FormPropio>& FormsPropios()
 {
     static const std::vector<FormPropio> propios = {
         {"DatosGen", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<DatosGen>(d); }},
+        // The map dialogs of the actions form: no record, no catalogue row.
+        {"frmECGn", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmECGn>(d); }},
+        {"frmECV", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmECV>(d); }},
+        {"frmNCSE02", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmNCSE02>(d); }},
     };
     return propios;
 }

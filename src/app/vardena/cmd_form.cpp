@@ -72,10 +72,29 @@ std::optional<Referencia> LeeReferencia(const std::string& text)
 }
 
 struct Paso {
-    bool pulsa;  // --press, else --set
+    enum Tipo { Pon, Pulsa, Pincha } tipo;  // --set, --press, --click
     Referencia control;
     std::string valor;
+    int x = 0, y = 0;  // where --click presses
 };
+
+// "X,Y" of --click: two whole numbers.
+bool LeePunto(const std::string& t, int& x, int& y)
+{
+    const size_t coma = t.find(',');
+    if (coma == std::string::npos || coma == 0 || coma + 1 == t.size())
+        return false;
+    const std::string a = t.substr(0, coma), b = t.substr(coma + 1);
+    auto entero = [](const std::string& s) {
+        const size_t desde = s[0] == '-' ? 1 : 0;
+        return s.size() > desde && s.size() <= 6 + desde && s.find_first_not_of("0123456789", desde) == std::string::npos;
+    };
+    if (!entero(a) || !entero(b))
+        return false;
+    x = std::stoi(a);
+    y = std::stoi(b);
+    return true;
+}
 
 struct Opciones {
     std::string obra, form;
@@ -118,13 +137,23 @@ bool LeeOpciones(const std::vector<std::string>& args, Opciones& o)
             auto ref = LeeReferencia(v.substr(0, eq));
             if (!ref)
                 return false;
-            o.pasos.push_back({false, *ref, v.substr(eq + 1)});
+            o.pasos.push_back({Paso::Pon, *ref, v.substr(eq + 1)});
+        } else if (a == "--click") {
+            const size_t eq = valor(v) ? v.find('=') : std::string::npos;
+            if (eq == std::string::npos)
+                return false;
+            auto ref = LeeReferencia(v.substr(0, eq));
+            Paso p{Paso::Pincha, {}, {}};
+            if (!ref || !ref->propiedad.empty() || !LeePunto(v.substr(eq + 1), p.x, p.y))
+                return false;
+            p.control = *ref;
+            o.pasos.push_back(p);
         } else if (a == "--press" || a == "--get") {
             auto ref = valor(v) ? LeeReferencia(v) : std::nullopt;
             if (!ref || (a == "--press" && !ref->propiedad.empty()))
                 return false;
             if (a == "--press")
-                o.pasos.push_back({true, *ref, {}});
+                o.pasos.push_back({Paso::Pulsa, *ref, {}});
             else
                 o.lecturas.push_back(*ref);
         } else if (a.rfind("--", 0) == 0) {
@@ -319,10 +348,13 @@ int CmdForm(Aplicacion& app, const std::vector<std::string>& args)
         Control* c = Busca(*form, p.control, problema);
         if (!c)
             return Fail(problema);
-        if (p.pulsa) {
+        if (p.tipo != Paso::Pon) {
             d.UltimoGuardadoRechazado.clear();
             d.UltimoErrorDatos.clear();
-            c->Click();
+            if (p.tipo == Paso::Pincha)
+                c->ClickAt(p.x, p.y);
+            else
+                c->Click();
             // A save the form refused, or general data that could not be written, has told why
             // on standard error; nothing was written.
             if (!d.UltimoGuardadoRechazado.empty() || !d.UltimoErrorDatos.empty())
@@ -414,9 +446,9 @@ int CmdForms(Aplicacion& app, const std::vector<std::string>& args)
 
 Registrar form("form",
                "form WORK FORM [--title T] [--set NAME[(I)][.PROP]=VALUE]... [--press CONTROL]... "
-               "[--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
+               "[--click PICTURE=X,Y]... [--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
                "load element form FORM of WORK without a window, choose title T in List1, set fields, press "
-               "buttons (CmdCalcular saves), and print values or every control",
+               "buttons (CmdCalcular saves), click a picture at pixel X,Y, and print values or every control",
                CmdForm);
 Registrar forms("forms", "forms [--json]", "list the forms: name, catalogue code, stored controls, caption",
                 CmdForms);
