@@ -21,7 +21,7 @@ static_assert(CamposBienFormados(kCamposEnBlanco));
 constexpr auto kCamposLibreConMalla = UneCampos(kCamposLibre, {{"UCArmZap", {}, kZapatas}});
 static_assert(CamposBienFormados(kCamposLibreConMalla));
 
-TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
+constexpr TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
                      PasoComprobacion paso, std::span<const CampoDef> campos, Listas listas = ListasHormigon())
 {
     return TablaForm{nombre, campos, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada, std::move(listas)};
@@ -47,7 +47,7 @@ constexpr CampoDef kCamposFrmDatosProy[] = {
 };
 static_assert(CamposBienFormados(kCamposFrmDatosProy));
 
-TablaForm TablaDatosProy()
+constexpr TablaForm TablaDatosProy()
 {
     // The questionnaire is saved with no check call, as the one record "Anejos".
     return TablaForm{"frmDatosProy", kCamposFrmDatosProy, {false, true, PasoComprobacion::Ninguno, false},
@@ -75,9 +75,9 @@ static_assert(CamposBienFormados(kCamposFrmAccio));
 
 }  // namespace
 
-const std::vector<TablaForm>& TablasDatosYLibres()
+std::span<const TablaForm> TablasDatosYLibres()
 {
-    static const std::vector<TablaForm> tablas = {
+    static constexpr TablaForm tablas[] = {
         {"frmAccio", kCamposFrmAccio,
          // The actions are one record, "Acciones", which also names the window; the save has
          // no check call before it.
@@ -206,6 +206,7 @@ const std::vector<TablaForm>& TablasDatosYLibres()
         TablaLibre("frmUniSol", "Uniones Soldadas", "Unión Soldada 01", PasoComprobacion::Bandera, kCamposLibre),
         TablaLibre("frmVigFlot", "Soleras Armadas", "Viga Flotante 01", PasoComprobacion::Bandera, kCamposLibreConMalla),
     };
+    static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;
 }
 

@@ -202,9 +202,9 @@ static_assert(CamposBienFormados(kCamposFrmEscHorm));
 
 }  // namespace
 
-const std::vector<TablaForm>& TablasHormigon()
+std::span<const TablaForm> TablasHormigon()
 {
-    static const std::vector<TablaForm> tablas = {
+    static constexpr TablaForm tablas[] = {
         {"frmVigHorm", kCamposFrmVigHorm,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Vigas de Hormigón Armado", "Viga Hormigón. P 01-02", kRecubEstructura, kMinimosVano,
@@ -439,6 +439,7 @@ const std::vector<TablaForm>& TablasHormigon()
          }),
          MenuDef{"Hormigon", 11, "mnuEscal", "Escaleras"}},
     };
+    static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;
 }
 

@@ -25,9 +25,8 @@ const std::vector<TablaForm>& TablasCampos()
 {
     static const std::vector<TablaForm> todas = [] {
         std::vector<const TablaForm*> sueltas;
-        for (const auto* familia : {&TablasHormigon(), &TablasAceroMadera(), &TablasFabricaTerreno(),
-                                    &TablasDatosYLibres()})
-            for (const auto& t : *familia)
+        for (const auto familia : {TablasHormigon(), TablasAceroMadera(), TablasFabricaTerreno(), TablasDatosYLibres()})
+            for (const auto& t : familia)
                 sueltas.push_back(&t);
         std::vector<TablaForm> out;
         // The catalogue's order first, as the contents list shows the elements.

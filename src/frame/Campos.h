@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "base/Form.h"
+#include "base/ListaFija.h"
 #include "frame/ControlesVisibles.h"
 #include "frame/Listas.h"
 
@@ -32,34 +33,6 @@ inline constexpr Kind kNumDiamSep = Kind::UCNumDiamSep;
 inline constexpr Kind kZapatas = Kind::UCZapatas;
 inline constexpr Kind kMallazo = Kind::UCMallazo;
 inline constexpr Kind kPerfil = Kind::UCPerfil;
-
-// A short list held in place, so that a definition can be a constant. More items than it
-// holds stop the build.
-template <typename T, size_t N>
-class ListaFija {
-public:
-    constexpr ListaFija() = default;
-    constexpr ListaFija(std::initializer_list<T> items)
-    {
-        for (const T& x : items)
-            push_back(x);
-    }
-    constexpr void push_back(const T& x)
-    {
-        if (n_ == N)
-            throw std::length_error("ListaFija: more items than it holds");
-        v_[n_++] = x;
-    }
-    constexpr size_t size() const { return n_; }
-    constexpr bool empty() const { return n_ == 0; }
-    constexpr const T* begin() const { return v_; }
-    constexpr const T* end() const { return v_ + n_; }
-    constexpr const T& operator[](size_t i) const { return v_[i]; }
-
-private:
-    T v_[N] = {};
-    size_t n_ = 0;
-};
 
 // One entry of a field list: a control, or a stretch of members of a control array.
 struct CampoDef {
@@ -228,12 +201,12 @@ struct TablaForm {
     std::span<const Valor> propios;
     std::span<const Valor> minimos;
     Listas listas;
-    std::vector<Magnitud> cargas;  // of TxtQ(0), TxtQ(1)...
+    ListaFija<Magnitud, 16> cargas;  // of TxtQ(0), TxtQ(1)...
     Despacho despacho = Despacho::Ninguno;
     bool enList4 = true;  // the conversion enters the form in List4 when it finishes
     // The shown controls (frames, labels, buttons, pictures) with their captions, and the
     // captions of its fields: those of its families first, then its own.
-    std::vector<ControlVisible> visibles;
+    VisiblesDef visibles;
     MenuDef menu = {};  // no command for a form the menu does not open
     std::span<const GrupoDef> grupos = {};  // its window's own groups, first
     // The class of a form with logic of its own, made from its definition; nullptr for a form
@@ -242,17 +215,27 @@ struct TablaForm {
 };
 
 
+// Whether no two definitions of a family share a name.
+consteval bool NombresUnicos(std::span<const TablaForm> tablas)
+{
+    for (size_t i = 0; i < tablas.size(); ++i)
+        for (size_t j = 0; j < i; ++j)
+            if (tablas[i].nombre == tablas[j].nombre)
+                return false;
+    return true;
+}
+
 // The design text of member `miembro` (0-based position within the entry).
 std::string_view TextoDeDiseno(const CampoDef& campo, size_t miembro);
 // Number of stored controls of a table, each array member counted on its own.
 int NumeroControles(const TablaForm& tabla);
 
 // The tables by family. Each family lives in its own source file.
-const std::vector<TablaForm>& TablasHormigon();
-const std::vector<TablaForm>& TablasAceroMadera();
-const std::vector<TablaForm>& TablasFabricaTerreno();
+std::span<const TablaForm> TablasHormigon();
+std::span<const TablaForm> TablasAceroMadera();
+std::span<const TablaForm> TablasFabricaTerreno();
 // frmAccio, frmDatosProy and the forms with a free-text result.
-const std::vector<TablaForm>& TablasDatosYLibres();
+std::span<const TablaForm> TablasDatosYLibres();
 
 // All tables: the catalogue's forms in catalogue order, then the forms without a row.
 const std::vector<TablaForm>& TablasCampos();

@@ -1,5 +1,7 @@
 #include "frame/ControlesVisibles.h"
 
+#include <map>
+
 #include "frame/Campos.h"
 
 #include <string>
@@ -412,21 +414,23 @@ void AplicaFila(Form& form, const ControlVisible& v, bool crea)
 
 const std::vector<ControlVisible>& ControlesVisibles(std::string_view form)
 {
+    // The rows of every form, joined once.
+    static const std::map<std::string_view, std::vector<ControlVisible>> porForm = [] {
+        std::map<std::string_view, std::vector<ControlVisible>> out;
+        for (const TablaForm& t : TablasCampos()) {
+            std::vector<ControlVisible>& filas = out[t.nombre];
+            for (BloqueVisibles familia : t.visibles.familias)
+                filas.insert(filas.end(), familia().begin(), familia().end());
+            filas.insert(filas.end(), t.visibles.propias.begin(), t.visibles.propias.end());
+        }
+        return out;
+    }();
     static const std::vector<ControlVisible> ninguno;
-    const TablaForm* t = TablaCampos(form);
-    return t ? t->visibles : ninguno;
+    const auto it = porForm.find(form);
+    return it == porForm.end() ? ninguno : it->second;
 }
 
 const std::vector<ControlVisible>& ControlesComunes() { return EtiquetasComunes(); }
-
-std::vector<ControlVisible> Visibles(std::initializer_list<BloqueVisibles> familias, std::vector<ControlVisible> propias)
-{
-    std::vector<ControlVisible> out;
-    for (BloqueVisibles familia : familias)
-        out.insert(out.end(), familia().begin(), familia().end());
-    out.insert(out.end(), propias.begin(), propias.end());
-    return out;
-}
 
 void AnadeControlesVisibles(Form& form)
 {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Form.h"
+#include "base/ListaFija.h"
 
 namespace vardena {
 
@@ -62,8 +63,15 @@ const std::vector<ControlVisible>& EtiquetasVigaHormigon();
 const std::vector<ControlVisible>& EtiquetasZapata();
 const std::vector<ControlVisible>& EtiquetasZapataBajoMuro();
 const std::vector<ControlVisible>& EtiquetasComunes();
-// The rows of the families given, in order, then the form's own rows.
-std::vector<ControlVisible> Visibles(std::initializer_list<BloqueVisibles> familias, std::vector<ControlVisible> propias = {});
+// The shown rows of a form: the blocks of its families, in order, then its own rows.
+struct VisiblesDef {
+    ListaFija<BloqueVisibles, 8> familias;
+    ListaFija<ControlVisible, 128> propias;
+};
+constexpr VisiblesDef Visibles(std::initializer_list<BloqueVisibles> familias, std::initializer_list<ControlVisible> propias = {})
+{
+    return VisiblesDef{familias, propias};
+}
 
 // The rows of a form by its name, those of the families it belongs to first; empty for a form
 // that has none in the table. A row of index -1 that names a control array gives its caption

@@ -5,7 +5,8 @@
 
 #include <span>
 #include <string_view>
-#include <vector>
+
+#include "base/ListaFija.h"
 
 namespace vardena {
 
@@ -15,13 +16,9 @@ struct Lista {
     int index;
     std::span<const std::string_view> filas;
 };
-using Listas = std::vector<Lista>;
-// Lists joined: a form's own lists stand before the shared ones; the first match wins.
-inline Listas operator+(Listas a, const Listas& b)
-{
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
+// A form's lists; joined with +, a form's own lists stand before the shared ones, and the
+// first match wins.
+using Listas = ListaFija<Lista, 32>;
 
 // ---- Concrete ----
 
@@ -153,7 +150,7 @@ inline constexpr std::string_view kCompartimentacion[] = {"Compartimentada", "Di
 inline constexpr std::string_view kDuctilidad[] = {"m= 1", "m= 2", "m= 3", "m= 4"};
 
 // Lists that several forms share.
-inline Listas ListasHormigon()
+constexpr Listas ListasHormigon()
 {
     return {{"CmbHorm", -1, kHormigon}, {"CmbAcero", -1, kAceroArmar}, {"cmbControl", -1, kControl},
             {"CmbRecub", -1, kRecubrimiento}};
@@ -162,16 +159,16 @@ inline Listas ListasHormigon()
 // maps every stored CmbHorm index onto the ten rows from "HA-10": with a shorter list an old
 // record's HA-40 to HA-50 would fall outside the rows and HA-25 would read as HA-40. They keep
 // the full list so that their records of version 3 read right.
-inline Listas ListasHormigon25() { return ListasHormigon(); }
-inline Listas ListasExposicion() { return {{"CmbAmbGral", -1, kAmbiente}, {"CmbAmbEspec", -1, kAmbienteEspecifico}}; }
-inline Listas ListasViga() { return {{"cmbPart", -1, kParticion}, {"CmTramos", -1, kTramos}}; }
-inline Listas ListasAcero()
+constexpr Listas ListasHormigon25() { return ListasHormigon(); }
+constexpr Listas ListasExposicion() { return {{"CmbAmbGral", -1, kAmbiente}, {"CmbAmbEspec", -1, kAmbienteEspecifico}}; }
+constexpr Listas ListasViga() { return {{"cmbPart", -1, kParticion}, {"CmTramos", -1, kTramos}}; }
+constexpr Listas ListasAcero()
 {
     return {{"CmbAcero", -1, kAceroLaminado}, {"cmbClase", -1, kClaseSeccion}, {"CmbCaso", -1, kCasoCarga}};
 }
-inline Listas ListasMadera() { return {{"CmbResis", -1, kResistencia}, {"CmbServi", -1, kServicio}, {"CmbUso", -1, kUso}}; }
-inline Listas ListasPilar() { return {{"CmbForma", -1, kFormaPilar}, {"cmbesviada", -1, kEsviada}}; }
-inline Listas ListasMuro() { return {{"CmbSot", -1, kSotanos}}; }
-inline Listas ListasForjado() { return {{"Combo1", -1, kParticionMuros}}; }
+constexpr Listas ListasMadera() { return {{"CmbResis", -1, kResistencia}, {"CmbServi", -1, kServicio}, {"CmbUso", -1, kUso}}; }
+constexpr Listas ListasPilar() { return {{"CmbForma", -1, kFormaPilar}, {"cmbesviada", -1, kEsviada}}; }
+constexpr Listas ListasMuro() { return {{"CmbSot", -1, kSotanos}}; }
+constexpr Listas ListasForjado() { return {{"Combo1", -1, kParticionMuros}}; }
 
 }  // namespace vardena

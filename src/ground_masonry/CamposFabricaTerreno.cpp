@@ -188,9 +188,9 @@ static_assert(CamposBienFormados(kCamposFrmTalud));
 
 }  // namespace
 
-const std::vector<TablaForm>& TablasFabricaTerreno()
+std::span<const TablaForm> TablasFabricaTerreno()
 {
-    static const std::vector<TablaForm> tablas = {
+    static constexpr TablaForm tablas[] = {
         {"frmMuros", kCamposFrmMuros,
          // Reasoned titles for the masonry forms.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -546,6 +546,7 @@ const std::vector<TablaForm>& TablasFabricaTerreno()
          }),
          MenuDef{"Cimentacion", 9, "mnuTalud", ""}},
     };
+    static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;
 }
 

@@ -119,9 +119,9 @@ static_assert(CamposBienFormados(kCamposFrmEscMade));
 
 }  // namespace
 
-const std::vector<TablaForm>& TablasAceroMadera()
+std::span<const TablaForm> TablasAceroMadera()
 {
-    static const std::vector<TablaForm> tablas = {
+    static constexpr TablaForm tablas[] = {
         {"frmVigMet", kCamposFrmVigMet,
          // Reasoned caption and title for the steel beam, after the concrete beam's.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -227,6 +227,7 @@ const std::vector<TablaForm>& TablasAceroMadera()
          {}, Despacho::Ninguno, true, {},
          MenuDef{"Madera", 4, "mnuEscMade", ""}},
     };
+    static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;
 }
 
