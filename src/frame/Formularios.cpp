@@ -5,6 +5,7 @@
 #include "building/DatosGen.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
+#include "ground_masonry/Suelo.h"
 #include "works/Catalogo.h"
 #include "base/FileIo.h"
 #include "base/Form.h"
@@ -26,6 +27,7 @@ const std::vector<FormPropio>& FormsPropios()
 {
     static const std::vector<FormPropio> propios = {
         {"DatosGen", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<DatosGen>(d); }},
+        {"frmSuelo", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<Suelo>(d); }},
     };
     return propios;
 }
