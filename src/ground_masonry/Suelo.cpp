@@ -25,6 +25,8 @@ constexpr int kMsgAvisoCohesion2 = 1030;
 constexpr int kMsgDivisionPorCero = 1521;
 constexpr int kMsgDesbordamiento = 1522;
 constexpr int kMsgRaizNegativa = 1523;
+// The caption of the length of a circular footing: "Diámetro".
+constexpr int kMsgDiametro = 1525;
 
 constexpr int kErrLlamadaNoValida = 5;
 constexpr int kErrDesbordamiento = 6;
@@ -131,6 +133,7 @@ Suelo::Factores Suelo::FactoresSegundaForma(double phi) const
 
 void Suelo::CargaPropia()
 {
+    rotuloLargo_ = At("lblLargo").Caption();
     // Cargando is set: the rewrites below raise no events; the handlers are called once each.
     At("Text1").SetText(Formato00(Valor("Text3") / 100 * Valor("txtD")));
     Calc_FactForma();
@@ -406,11 +409,12 @@ void Suelo::PresentaCimiento(int indice)
     At("PictureSot").SetVisible(tipo != TipoCimiento::Losa);
     Control& largo = At("lblLargo");
     largo.SetVisible(true);
-    // A strip footing keeps the caption that the kind before it gave.
+    // A strip footing keeps the caption that the kind before it gave. "Largo" is the label's
+    // own caption in the language of the window.
     if (tipo == TipoCimiento::Rectangular || tipo == TipoCimiento::Losa)
-        largo.SetCaption("Largo");
+        largo.SetCaption(rotuloLargo_);
     else if (tipo == TipoCimiento::Circular)
-        largo.SetCaption("Diámetro");
+        largo.SetCaption(decl().Msg(kMsgDiametro));
     // A circle has its diameter only.
     At("lblAncho").SetVisible(tipo != TipoCimiento::Circular);
     At("txtB").SetVisible(tipo != TipoCimiento::Circular);

@@ -105,6 +105,8 @@ private:
     };
     Factores FactoresSegundaForma(double phi) const;
 
+    // The caption of lblLargo as the window was loaded, in its language ("Largo").
+    std::string rotuloLargo_ = "Largo";
     // The vertical force of the last inclination calculation, as the module held it.
     float V_ = 0;
     // While the button's calculations run, the report waits for them all to succeed, so that a

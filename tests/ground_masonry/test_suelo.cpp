@@ -430,6 +430,41 @@ TEST_F(Soil, RockReportChangesTheHeadingOfLaterReports)
     EXPECT_NE(informe.find("Presión de hundimiento"), std::string::npos);
 }
 
+// The reports open in a real word processor with their accents and their two columns.
+TEST_F(Soil, ReportsOpenInLibreOffice)
+{
+    const std::string soffice = test::OnPath("soffice");
+    if (soffice.empty())
+        GTEST_SKIP() << "soffice is not on PATH";
+    // The text as LibreOffice writes it, without its byte-order mark and the narrow spaces it
+    // puts into runs of blanks.
+    auto convierte = [&](const std::string& titulo) {
+        std::string t = test::ConvierteConLibreOffice(soffice, dir.path(), dir / (titulo + ".lCS"),
+                                                      "txt:Text (encoded):UTF8", titulo + ".txt");
+        if (t.rfind("\xEF\xBB\xBF", 0) == 0)
+            t.erase(0, 3);
+        for (size_t k = t.find("\xE2\x80\x86"); k != std::string::npos; k = t.find("\xE2\x80\x86", k))
+            t.erase(k, 3);
+        return t;
+    };
+    auto f = Load();
+    Pon(*f, {{"chkServ", "1"}, {"Text4", "12"}});
+    f->At("CmdCalcular").Click();
+    std::string texto = convierte("Terreno 01");
+    for (const char* linea : {"DEFINICIÓN DEL TERRENO DE CIMENTACIÓN", "Terreno: Terreno 01",
+                              "\tÁngulo de rozamiento interno (º):\t30", "\tTérmino de cohesión (Nc):\t30.14",
+                              "\t        - Inclinación de la carga menor del 10 %", "\tPresión de hundimiento qh:\t",
+                              "\tPresión de servicio:\t30.00 kN/m2", "\tEl terreno tiene cohesión (c de 8 kN/m2 o más):"})
+        EXPECT_NE(texto.find(linea), std::string::npos) << linea << "\n" << texto;
+    EXPECT_EQ(texto.find('\\'), std::string::npos) << "no mark-up leaks into the text";
+
+    Pon(*f, {{"txtTitulo", "Roca"}, {"CmbTerreno", "7"}});
+    texto = convierte("Roca");
+    for (const char* linea : {"Suelo:  Roca", "\tResistencia a compresión de la roca sana qu:\t20000.00 kN/m2",
+                              "\tParámetro Ksp:\t0.13"})
+        EXPECT_NE(texto.find(linea), std::string::npos) << linea << "\n" << texto;
+}
+
 // A record read shows its frames and sketches; pressing the button changes the calculated
 // fields only.
 TEST_F(Soil, ReadingARecordAndRecalculatingIt)
