@@ -208,11 +208,7 @@ void Suelo::Calc_Suelo()
             p *= Valor(campo);
         return p;
     };
-    const double beta = Valor("txtAng") * kPi / 180;
-    if (beta > phi / 2) {
-        AnadeAviso(d, d.Msg(kMsgAvisoTalud));
-        AnadeAviso(d, d.Msg(kMsgAvisoTalud2));
-    }
+    AvisaTalud(Valor("txtAng") * kPi / 180, phi);
     const double qh = Finito(c * nc * producto(kFactoresCohesion) + q * nq * producto(kFactoresSobrecarga) +
                                  0.5 * B * gamma * ng * producto(kFactoresPeso),
                              "Text2");
@@ -327,7 +323,6 @@ void Suelo::Calc_FactIncl()
 
 void Suelo::Talud()
 {
-    Declaraciones& d = decl();
     const double A = Valor("txtAng");
     const double beta = A * kPi / 180;
     const double phi = Phi();
@@ -340,6 +335,12 @@ void Suelo::Talud()
     At("txtTq").SetText(Formato00(tq));
     At("txtTg").SetText(Formato00(tq));
     // Kept until the next bearing calculation starts the list anew; a rock calculation shows them.
+    AvisaTalud(beta, phi);
+}
+
+void Suelo::AvisaTalud(double beta, double phi)
+{
+    Declaraciones& d = decl();
     if (beta > phi / 2) {
         AnadeAviso(d, d.Msg(kMsgAvisoTalud));
         AnadeAviso(d, d.Msg(kMsgAvisoTalud2));

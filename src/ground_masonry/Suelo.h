@@ -68,6 +68,8 @@ private:
     void Calc_FactIncl();
     void Profundidad();  // txtD change
     void Talud();        // txtAng change
+    // The warnings of a slope (beta) steeper than half the friction angle (phi), in radians.
+    void AvisaTalud(double beta, double phi);
     void CmbTerreno_Click();
     void ComboCim_Click();
     void chkServ_Click();
