@@ -159,8 +159,10 @@ void RunRecords(RunState& s, const Dispatch& dispatch)
         if (lectura.found() && !SameNameNoCase(ArchivoDe(written), ArchivoDe(record)) && e.status != Status::Refused)
             e.note += "; the record holds another title, so it was written as " + ArchivoDe(written) +
                       " and the old file stays";
-        if (dispatch.form == std::string("frmSuelo"))
-            e.note += "; the soil was not recalculated";
+        // A form that calculates for real (the soil) says what its calculation gave.
+        if (!written.empty())
+            if (const std::string calculo = element->ResumenCalculo(); !calculo.empty())
+                e.note += "; " + calculo;
         s.log.entries.push_back(e);
         ++s.log.records;
         if (s.options.progress)

@@ -322,6 +322,8 @@ std::string Control::Property(std::string_view prop) const
         return visible_ ? "True" : "False";
     if (EqNoCase(prop, "Enabled"))
         return enabled_ ? "True" : "False";
+    if (EqNoCase(prop, "Left"))
+        return std::to_string(left_);
     if (IsComposite(kind_))
         return Get(prop);
     throw PropertyError(438, Label() + " has no property " + std::string(prop));
@@ -364,6 +366,8 @@ void Control::SetProperty(std::string_view prop, std::string_view value)
         if (!ParseBool(value, b))
             throw PropertyError(13, Label() + ": \"" + v + "\" is not True or False");
         enabled_ = b;
+    } else if (EqNoCase(prop, "Left")) {
+        left_ = static_cast<int>(ValComa(v));
     } else if (IsComposite(kind_)) {
         Set(prop, value);
     } else {

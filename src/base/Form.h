@@ -45,15 +45,23 @@ bool KindFromName(std::string_view name, Kind& out);
 // The properties a stored kind writes, in positional order.
 const std::vector<std::string>& StoredProperties(Kind k);
 
-// A property value that the control does not accept (run-time error 380), or a property it
-// does not have (438).
-class PropertyError : public std::runtime_error {
+// A run-time error of a handler, under the run time's number (5 an invalid procedure call,
+// 6 an overflow, 9 a subscript out of range, 11 a division by zero...) with a sentence that
+// says what caused it. The error window of the handler shows both.
+class ErrorEjecucion : public std::runtime_error {
 public:
-    PropertyError(int number, const std::string& what) : std::runtime_error(what), number_(number) {}
+    ErrorEjecucion(int number, const std::string& what) : std::runtime_error(what), number_(number) {}
     int number() const { return number_; }
 
 private:
     int number_;
+};
+
+// A property value that the control does not accept (run-time error 380), or a property it
+// does not have (438).
+class PropertyError : public ErrorEjecucion {
+public:
+    using ErrorEjecucion::ErrorEjecucion;
 };
 
 class Control;
@@ -126,6 +134,9 @@ public:
     void SetVisible(bool v) { visible_ = v; }
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool v) { enabled_ = v; }
+    // Position from the form's left edge, in twips, where a form moves a control at run time.
+    int Left() const { return left_; }
+    void SetLeft(int twips) { left_ = twips; }
 
     // Composite controls: properties by name. Without a behaviour they are plain texts.
     std::string Get(std::string_view prop) const;
@@ -137,7 +148,7 @@ public:
     void RawSet(std::string_view prop, std::string_view value);
 
     // Any property by name, as the readers, the language packs and the form driver see it:
-    // Text, ListIndex, Value, Caption, ToolTipText, Visible, Enabled, and composite properties.
+    // Text, ListIndex, Value, Caption, ToolTipText, Visible, Enabled, Left, and composite properties.
     std::string Property(std::string_view prop) const;
     void SetProperty(std::string_view prop, std::string_view value);
 
@@ -182,6 +193,7 @@ private:
     std::string toolTip_;
     bool visible_ = true;
     bool enabled_ = true;
+    int left_ = 0;
     std::string group_;
     std::map<std::string, std::string, std::less<>> props_;
     std::shared_ptr<CompositeBehavior> behavior_;

@@ -5,11 +5,14 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <set>
 
 #include "controls/Ventanas.h"
@@ -18,6 +21,131 @@
 #include "base/FileIo.h"
 
 namespace vardena {
+namespace {
+
+// A sketch picture of an element form: the form's drawing, scaled into the widget with its
+// proportions kept, each part of the sketch in its colour.
+class DibujoCroquis : public QWidget {
+public:
+    DibujoCroquis(const ElementForm& form, const Control& picture) : form_(form), picture_(picture)
+    {
+        setMinimumSize(140, 105);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        setObjectName(Q(picture.Label()));
+    }
+    QSize sizeHint() const override { return {180, 125}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const std::optional<Croquis> croquis = form_.CroquisDe(picture_);
+        QPainter p(this);
+        p.setRenderHint(QPainter::Antialiasing);
+        const QColor fondo("#f7f9fc");
+        p.fillRect(rect(), fondo);
+        if (!croquis || croquis->ancho <= 0 || croquis->alto <= 0)
+            return;
+        const double esc = std::min((width() - 8) / static_cast<double>(croquis->ancho),
+                                    (height() - 8) / static_cast<double>(croquis->alto));
+        const double x0 = (width() - croquis->ancho * esc) / 2;
+        const double y0 = (height() - croquis->alto * esc) / 2;
+        auto punto = [&](const PuntoCroquis& q) { return QPointF(x0 + q.x * esc, y0 + q.y * esc); };
+        QFont letra = p.font();
+        letra.setPointSizeF(8.5);
+        letra.setItalic(true);
+        p.setFont(letra);
+        for (const TrazoCroquis& t : croquis->trazos) {
+            if (t.puntos.empty())
+                continue;
+            QPolygonF poligono;
+            for (const PuntoCroquis& q : t.puntos)
+                poligono << punto(q);
+            switch (t.figura) {
+            case FiguraCroquis::Poligono:
+                p.setPen(t.papel == PapelCroquis::Hormigon ? QPen(QColor("#44546a"), 1) : QPen(Qt::NoPen));
+                p.setBrush(Relleno(t.papel, fondo));
+                p.drawPolygon(poligono);
+                if (t.papel == PapelCroquis::Terreno) {
+                    p.setBrush(QBrush(QColor("#b59b6a"), Qt::BDiagPattern));
+                    p.drawPolygon(poligono);
+                }
+                break;
+            case FiguraCroquis::Linea:
+                p.setPen(Pluma(t.papel));
+                p.drawPolyline(poligono);
+                break;
+            case FiguraCroquis::Flecha:
+                if (poligono.size() >= 2)
+                    Flecha(p, poligono[0], poligono[1], Pluma(t.papel));
+                break;
+            case FiguraCroquis::Cota:
+                if (poligono.size() >= 2)
+                    Cota(p, poligono[0], poligono[1], Q(t.texto));
+                break;
+            case FiguraCroquis::Texto:
+                p.setPen(Pluma(t.papel));
+                p.drawText(QRectF(poligono[0].x() - 40, poligono[0].y() - 9, 80, 18), Qt::AlignCenter, Q(t.texto));
+                break;
+            }
+        }
+    }
+
+private:
+    static QBrush Relleno(PapelCroquis papel, const QColor& fondo)
+    {
+        switch (papel) {
+        case PapelCroquis::Terreno: return QColor("#e6d8bd");
+        case PapelCroquis::Hormigon: return QColor("#c3cad4");
+        case PapelCroquis::Hueco: return fondo;
+        default: return Qt::NoBrush;
+        }
+    }
+    static QPen Pluma(PapelCroquis papel)
+    {
+        switch (papel) {
+        case PapelCroquis::Superficie: return QPen(QColor("#5b4a2a"), 2);
+        case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
+        case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
+        default: return QPen(QColor("#1d3557"), 1);
+        }
+    }
+    static void Flecha(QPainter& p, QPointF a, QPointF b, const QPen& pluma)
+    {
+        p.setPen(pluma);
+        p.drawLine(a, b);
+        const QLineF eje(b, a);
+        QLineF ala(b, a);
+        ala.setLength(5);
+        for (double giro : {25.0, -25.0}) {
+            QLineF l = ala;
+            l.setAngle(eje.angle() + giro);
+            p.drawLine(l);
+        }
+    }
+    static void Cota(QPainter& p, QPointF a, QPointF b, const QString& texto)
+    {
+        p.setPen(QPen(QColor("#1d3557"), 1));
+        p.drawLine(a, b);
+        for (const QPointF& q : {a, b})
+            p.drawLine(q + QPointF(-3, 3), q + QPointF(3, -3));
+        const QPointF medio = (a + b) / 2;
+        const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
+        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 18, 18) : QRectF(medio.x() - 9, medio.y() - 17, 18, 16);
+        p.drawText(caja, Qt::AlignCenter, texto);
+    }
+
+    const ElementForm& form_;
+    const Control& picture_;
+};
+
+// A label of the form's own, whose long captions wrap rather than widen the window.
+QWidget* Estrecha(QWidget* etiqueta)
+{
+    etiqueta->setMinimumWidth(90);
+    return etiqueta;
+}
+
+}  // namespace
 
 // ---- VentanaForm ----
 
@@ -121,10 +249,20 @@ QWidget* VentanaElemento::CreaDatos()
     return zona;
 }
 
+QWidget* VentanaElemento::WidgetDe(Control& c)
+{
+    OpcionesAdaptador op;
+    // A field whose change runs the form's logic (and may rewrite the field itself) takes its
+    // text when editing ends, not at every key.
+    op.alTerminar = c.kind() == Kind::TextBox && static_cast<bool>(c.onChange);
+    return vista_->De(c, op).widget();
+}
+
 QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
 {
     auto* grupo = new QGroupBox(Q(g.titulo));
     grupo->setStyleSheet("QGroupBox { font-weight: bold; color: #1d3557; } QGroupBox * { font-weight: normal; }");
+    grupos_.emplace_back(grupo, g);
     auto* rejilla = new QGridLayout(grupo);
     rejilla->setHorizontalSpacing(6);
     rejilla->setVerticalSpacing(3);
@@ -133,21 +271,54 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
                                 return c->kind() == Kind::TextBox || c->kind() == Kind::ComboBox ||
                                        c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton;
                             });
+    const int anchoFila = dosPorFila ? 6 : 3;
+    const auto* elemento = dynamic_cast<const ElementForm*>(form_.get());
+    // The band of the sketches being placed side by side.
+    QHBoxLayout* croquis = nullptr;
     int fila = 0, col = 0;
     for (Control* c : g.miembros) {
-        QWidget* w = vista_->De(*c).widget();
+        if (c->kind() == Kind::PictureBox) {
+            if (!elemento || !elemento->CroquisDe(*c))
+                continue;
+            if (!croquis) {
+                auto* banda = new QWidget();
+                croquis = new QHBoxLayout(banda);
+                croquis->setContentsMargins(0, 4, 0, 0);
+                rejilla->addWidget(banda, fila++, 0, 1, anchoFila);
+                col = 0;
+            }
+            auto* dibujo = new DibujoCroquis(*elemento, *c);
+            croquis->addWidget(dibujo);
+            siguen_.emplace_back(dibujo, c);
+            continue;
+        }
+        croquis = nullptr;
         const int base = col * 3;
-        if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton || c->kind() == Kind::CommandButton) {
-            rejilla->addWidget(w, fila, base, 1, 3);
+        if (c->kind() == Kind::Label) {
+            // A heading or a note of the group: the whole row.
+            rejilla->addWidget(Estrecha(vista_->De(*c).widget()), fila, base, 1, 3);
+        } else if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton || c->kind() == Kind::CommandButton) {
+            rejilla->addWidget(WidgetDe(*c), fila, base, 1, 3);
         } else if (c->kind() == Kind::RichTextBox) {
+            QWidget* w = WidgetDe(*c);
             w->setMaximumHeight(140);
             rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base, Qt::AlignTop);
             rejilla->addWidget(w, fila, base + 1, 1, 2);
         } else if (c->kind() == Kind::UCPerfil) {
             rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base);
-            rejilla->addWidget(w, fila, base + 1, 1, dosPorFila ? 2 : 5);
+            rejilla->addWidget(WidgetDe(*c), fila, base + 1, 1, dosPorFila ? 2 : 5);
         } else {
-            rejilla->addWidget(Etiqueta(EtiquetaEnGrupo(*c, g)), fila, base);
+            QWidget* w = WidgetDe(*c);
+            // The form's own label where its definition gives one, else the field's caption,
+            // which shows while the field does.
+            QWidget* etiqueta = nullptr;
+            if (auto it = g.etiquetas.find(c); it != g.etiquetas.end()) {
+                etiqueta = Estrecha(vista_->De(*it->second).widget());
+            } else {
+                etiqueta = Etiqueta(EtiquetaEnGrupo(*c, g));
+                siguen_.emplace_back(etiqueta, c);
+            }
+            rejilla->addWidget(etiqueta, fila, base);
             rejilla->addWidget(w, fila, base + 1);
             if (auto* linea = qobject_cast<QLineEdit*>(w)) {
                 linea->setMinimumWidth(c->Name() == "txtTitulo" ? 150 : 64);
@@ -173,7 +344,8 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
             ++fila;
         }
     }
-    rejilla->setColumnStretch(dosPorFila ? 5 : 2, 1);
+    // The room to spare goes to the form's own labels, so that they wrap no more than they must.
+    rejilla->setColumnStretch(g.etiquetas.empty() ? (dosPorFila ? 5 : 2) : 0, 1);
     return grupo;
 }
 
@@ -218,6 +390,10 @@ QWidget* VentanaElemento::CreaPanel()
 
 void VentanaElemento::Actualiza()
 {
+    for (auto& [caja, grupo] : grupos_)
+        caja->setVisible(GrupoVisible(grupo));
+    for (auto& [w, c] : siguen_)
+        w->setVisible(c->Visible());
     const Control* rtb = form_->Find("RichTextBox1");
     const bool resultado = rtb && rtb->Visible() && pila_->count() > 1;
     pila_->setCurrentIndex(resultado ? 1 : 0);

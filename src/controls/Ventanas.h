@@ -60,10 +60,16 @@ private:
     QWidget* CreaDatos();
     QWidget* CreaGrupo(const GrupoCampos& g);
     QWidget* CreaPanel();
+    // The widget of a field, handing its text over when editing ends where a change of the
+    // field runs the form's logic.
+    QWidget* WidgetDe(Control& c);
     void Actualiza();
 
     QStackedWidget* pila_ = nullptr;
     QPushButton* listado_ = nullptr;
+    // Widgets that show while their group's frames, or their control, show.
+    std::vector<std::pair<QWidget*, GrupoCampos>> grupos_;
+    std::vector<std::pair<QWidget*, const Control*>> siguen_;
 };
 
 // The building's general data, with the section drawn from the form's layout.

@@ -140,8 +140,12 @@ public:
             area_->setStyleSheet(gris ? "QPlainTextEdit { color: #808080; font-style: italic; }" : "");
         } else {
             const QString t = Q(control_.Text());
-            if (linea_->text() != t)
+            if (linea_->text() != t) {
                 linea_->setText(t);
+                // A text longer than the box shows its beginning, unless the user is typing in it.
+                if (!linea_->hasFocus())
+                    linea_->setCursorPosition(0);
+            }
         }
         refrescando_ = false;
         RefrescaComun();

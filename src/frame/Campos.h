@@ -171,10 +171,13 @@ struct MenuDef {
 // name brings every member in index order; "Name(i)" brings one member. Any kind may stand in
 // a declared group, a sketch or a result view as well as the fields. The controls a form's
 // groups leave out fall to the groups its kinds and names give (frame/GruposVentana.h).
+// A label followed by a field names that field in the window. A group shows while its frame
+// and the frame that holds it (`dentro`, "" for none) are visible.
 struct GrupoDef {
     std::string_view marco;
     int mensaje = 0;
     std::span<const std::string_view> controles;
+    std::string_view dentro = {};
 };
 
 // The groups every element window has besides its own: first its identity (title and level)

@@ -165,6 +165,8 @@ void ElementForm::Form_Load()
 
 void ElementForm::Form_Unload() { descargado_ = true; }
 
+std::optional<Croquis> ElementForm::CroquisDe(const Control&) const { return std::nullopt; }
+
 void ElementForm::PoneVersion() { At("Lbvers").SetCaption("vers: " + VbStr(decl().VersionArchivo)); }
 
 void ElementForm::List1_Click()
@@ -221,6 +223,7 @@ void ElementForm::CmdCalcular_Click()
         guardado_ = GuardaForm(*this);
         if (guardado_.empty())
             return;
+        TrasGuardado();
         if (ciclo_.tituloFijo.empty())
             PoneVersion();
     });

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "frame/Campos.h"
+#include "frame/Croquis.h"
 #include "works/Registros.h"
 #include "base/Form.h"
 
@@ -54,6 +55,13 @@ public:
     void Listado1_Click();
     void CmdSalir_Click();
 
+    // The drawing of one of the form's sketch pictures; none for a picture the form does not draw.
+    virtual std::optional<Croquis> CroquisDe(const Control& picture) const;
+
+    // What the form's own calculation did at the last press of CmdCalcular, as a sentence for
+    // the conversion's log; empty for a form that calculates nothing.
+    virtual std::string ResumenCalculo() const { return {}; }
+
     // True once CmdSalir has closed the window.
     bool Descargado() const { return descargado_; }
     // The result view is in front (Listado1 pressed).
@@ -71,6 +79,8 @@ protected:
     // The calculation of a form whose save has no check call before it (frmAccio, frmSuelo):
     // runs just before the save. None by default.
     virtual void CalculoPropio() {}
+    // Runs after a save that went through, before the version label is set. None by default.
+    virtual void TrasGuardado() {}
 
     // For a form with one fixed record: whether its load found that record.
     bool RegistroFijoEncontrado() const { return lectura_.found(); }

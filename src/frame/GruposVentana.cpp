@@ -40,8 +40,36 @@ bool Nombra(std::string_view patron, const std::string& nombre)
     return nombre == patron;
 }
 
-// The declared groups with the controls they take: those not taken yet, not of the window's
-// frame and no unit labels.
+// The controls a declared name brings that no group has taken yet, none of the window's frame
+// and no unit labels: an array's members in index order, the controls a pattern names in the
+// form's order.
+std::vector<Control*> Nombrados(const Form& form, std::string_view nombre, const std::set<const Control*>& tomados)
+{
+    int index = -1;
+    if (const size_t p = nombre.find('('); p != std::string_view::npos) {
+        index = std::stoi(std::string(nombre.substr(p + 1)));
+        nombre = nombre.substr(0, p);
+    }
+    std::vector<Control*> miembros;
+    for (Control* c : form.Controls())
+        if (Nombra(nombre, c->Name()) && (index < 0 || c->Index() == index) && !tomados.count(c) &&
+            !EsDelMarco(c->Name()) && !EsEtiquetaDeUnidad(c->Name()))
+            miembros.push_back(c);
+    if (nombre.empty() || nombre.back() != '*')
+        std::stable_sort(miembros.begin(), miembros.end(),
+                         [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
+    return miembros;
+}
+
+// A control that a label beside it names: an entry field or a list (check boxes, options and
+// buttons carry their own caption).
+bool EsCampo(const Control* c)
+{
+    return c->kind() == Kind::TextBox || c->kind() == Kind::ComboBox || c->kind() == Kind::ListBox ||
+           IsComposite(c->kind());
+}
+
+// The declared groups with the controls they take.
 std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> defs, std::set<const Control*>& tomados)
 {
     std::vector<GrupoCampos> out;
@@ -49,26 +77,24 @@ std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> 
         GrupoCampos g;
         const Control* marco = def.marco.empty() ? nullptr : form.Find(std::string(def.marco));
         g.titulo = marco ? marco->Caption() : form.decl().Msg(def.mensaje);
+        for (const std::string_view nombre : {def.marco, def.dentro})
+            if (const Control* m = nombre.empty() ? nullptr : form.Find(std::string(nombre)))
+                g.marcos.push_back(m);
+        std::vector<std::vector<Control*>> entradas;
         for (std::string_view nombre : def.controles) {
-            int index = -1;
-            if (const size_t p = nombre.find('('); p != std::string_view::npos) {
-                index = std::stoi(std::string(nombre.substr(p + 1)));
-                nombre = nombre.substr(0, p);
-            }
-            std::vector<Control*> miembros;
-            for (Control* c : form.Controls())
-                if (Nombra(nombre, c->Name()) && (index < 0 || c->Index() == index) && !tomados.count(c) &&
-                    !EsDelMarco(c->Name()) && !EsEtiquetaDeUnidad(c->Name()))
-                    miembros.push_back(c);
-            // The members of an array in index order, as a reader counts them; the controls a
-            // pattern names in the form's order.
-            if (nombre.empty() || nombre.back() != '*')
-                std::stable_sort(miembros.begin(), miembros.end(),
-                                 [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
-            for (Control* c : miembros) {
+            entradas.push_back(Nombrados(form, nombre, tomados));
+            for (Control* c : entradas.back())
                 tomados.insert(c);
-                g.miembros.push_back(c);
+        }
+        for (size_t i = 0; i < entradas.size(); ++i) {
+            // A lone label before a field names it.
+            const bool rotulo = entradas[i].size() == 1 && entradas[i][0]->kind() == Kind::Label &&
+                                i + 1 < entradas.size() && !entradas[i + 1].empty() && EsCampo(entradas[i + 1][0]);
+            if (rotulo) {
+                g.etiquetas[entradas[i + 1][0]] = entradas[i][0];
+                continue;
             }
+            g.miembros.insert(g.miembros.end(), entradas[i].begin(), entradas[i].end());
         }
         if (!g.miembros.empty())
             out.push_back(std::move(g));
@@ -91,9 +117,21 @@ std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g)
 int AltoDeGrupo(const GrupoCampos& g)
 {
     int filas = 0;
-    for (const Control* c : g.miembros)
-        filas += c->kind() == Kind::UCPerfil ? 3 : 1;
+    const Control* anterior = nullptr;
+    for (const Control* c : g.miembros) {
+        // Sketches side by side take one band of several rows.
+        if (c->kind() == Kind::PictureBox)
+            filas += anterior && anterior->kind() == Kind::PictureBox ? 0 : 5;
+        else
+            filas += c->kind() == Kind::UCPerfil ? 3 : 1;
+        anterior = c;
+    }
     return g.miembros.size() > 6 ? (filas + 1) / 2 + 1 : filas + 1;
+}
+
+bool GrupoVisible(const GrupoCampos& g)
+{
+    return std::all_of(g.marcos.begin(), g.marcos.end(), [](const Control* m) { return m->Visible(); });
 }
 
 

@@ -2,6 +2,7 @@
 // How an element window groups its fields: a layout model computed from the form, which the
 // desktop program draws. Group titles come from the language pack.
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -9,10 +10,17 @@
 
 namespace vardena {
 
+// The heading of the group of the element's identity (its title, its level).
+inline constexpr int kMsgGrupoElemento = 1500;
+
 // A group of controls as the element window shows it.
 struct GrupoCampos {
     std::string titulo;
     std::vector<Control*> miembros;
+    // The frames whose visibility the group follows: its own and the one that holds it.
+    std::vector<const Control*> marcos = {};
+    // The label that names a field, where the form's definition puts one before it.
+    std::map<const Control*, Control*> etiquetas = {};
 };
 // The data fields of an element form grouped for display: the groups its definition declares
 // first, then by kind and name: the element's identity, materials,
@@ -24,5 +32,7 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form);
 std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g);
 // Rows a group takes on screen, to balance the columns.
 int AltoDeGrupo(const GrupoCampos& g);
+// Whether the group shows now: its frames are visible.
+bool GrupoVisible(const GrupoCampos& g);
 
 }  // namespace vardena

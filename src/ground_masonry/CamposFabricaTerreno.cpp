@@ -3,7 +3,9 @@
 
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "frame/GruposVentana.h"
 #include "frame/Listas.h"
+#include "ground_masonry/Suelo.h"
 
 namespace vardena {
 namespace {
@@ -20,6 +22,42 @@ constexpr Valor kMinimosZapComb[] = {{"TxCota", {{0, 9}}, 10}};
 constexpr Valor kMinimosZapCorr[] = {{"TxCotaMuro", {}, 10}, {"TxCotaAncho", {}, 40}, {"TxCotaAlto", {}, 30}};
 constexpr Valor kMinimosPilotes[] = {{"TxtLongPil", {}, 0}, {"TxtLPilote", {}, 0}, {"TxtH", {}, 30}};
 constexpr Valor kMinimosTalud[] = {{"TxCotaTalud", {{0, 0}, {1, 1}}, 10}};
+
+// The soil's window, frame by frame in reading order; each label stands before the field it
+// names. The four factor frames stand in UCframe1, which sound rock hides with the granular
+// frame UCframe2 (titled by its first label) to show the rock's frame UCframe11. The fields of
+// the last calculation's figures stand in no frame of the form.
+constexpr int kMsgValoresCalculo = 1520;
+constexpr std::string_view kSueloTitulo[] = {"txtTitulo"};
+constexpr std::string_view kSueloDatos[] = {"lblTerreno", "CmbTerreno", "lblDensidad", "Text3", "Label10", "Text2",
+                                            "Label12",    "Text4",      "Text5"};
+constexpr std::string_view kSueloCimiento[] = {"ComboCim",   "lblAnchoCim", "Text6",      "lblSobrecarga",
+                                               "Text1",      "PictureAis",  "PictureSot", "PictureLosa"};
+constexpr std::string_view kSueloProfundidad[] = {"lblProf", "txtD", "lblDc", "txtDc", "lblDq", "txtDq", "lblDg", "txtDg"};
+constexpr std::string_view kSueloForma[] = {"lblLargo", "txtA",  "lblAncho", "txtB",  "lblSc",
+                                            "txtSc",    "lblSq", "txtSq",    "lblSg", "txtSg"};
+constexpr std::string_view kSueloInclinacion[] = {"lblV",  "txtV",  "lblHx", "txtHx", "lblHy", "txtHy",
+                                                  "lblIc", "txtIc", "lblIq", "txtIq", "lblIg", "txtIg"};
+constexpr std::string_view kSueloTalud[] = {"lblAng", "txtAng", "lblTc", "txtTc", "lblTq", "txtTq", "lblTg", "txtTg"};
+constexpr std::string_view kSueloGranular[] = {"lblServGranular", "chkServ",       "lblCondicion", "lblSPT",    "txtSPT",
+                                               "lblAnchoEfect",   "txtAnchoEfect", "lblAsiento",   "txtAsiento"};
+constexpr std::string_view kSueloRoca[] = {"lblQu",  "txtQu",  "lblEspaciado", "txtS", "lblApertura", "txtAp",
+                                           "lblNotaApertura", "lblKsp", "txtKsp", "lblQd", "txtQd"};
+constexpr std::string_view kSueloValores[] = {"txtNc", "txtNq", "txtNg", "txtTa", "txtTaServ"};
+constexpr std::string_view kSueloResultados[] = {"lblTadm", "lblHundimiento", "txtTadm", "lblServicio", "txtServ"};
+constexpr GrupoDef kGruposSuelo[] = {
+    {"", kMsgGrupoElemento, kSueloTitulo},
+    {"UCframeDatosIni", 0, kSueloDatos},
+    {"UCframeCimiento", 0, kSueloCimiento},
+    {"UCframeProf", 0, kSueloProfundidad, "UCframe1"},
+    {"UCframeForma", 0, kSueloForma, "UCframe1"},
+    {"UCframeIncl", 0, kSueloInclinacion, "UCframe1"},
+    {"UCframeTalud", 0, kSueloTalud, "UCframe1"},
+    {"UCframe2", 0, kSueloGranular},
+    {"UCframe11", 0, kSueloRoca},
+    {"", kMsgValoresCalculo, kSueloValores},
+    {"UCframeResult", 0, kSueloResultados},
+};
 
 
 // The stored fields of each form, in the order of its record.
@@ -334,7 +372,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "Text3", -1, "Densidad (kg/m3)"},
              {kTx, "Text2", -1, "Ángulo rozamiento interno (º)"},
              {kTx, "Text4", -1, "Cohesión (kN/m2)"},
-             {kTx, "Text5", -1, "Valor del catálogo de suelos"},
+             {kTx, "Text5", -1, "Valor de catálogo"},
              {kCb, "ComboCim", -1, "Tipo cimiento"},
              {kTx, "Text6", -1, "Ancho efectivo B (m)"},
              {kTx, "Text1", -1, "Sobrecarga (kN/m2)"},
@@ -360,15 +398,15 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "txtSPT", -1, "N golpes SPT"},
              {kTx, "txtAnchoEfect", -1, "Ancho efectivo (m)"},
              {kTx, "txtAsiento", -1, "Asiento adm. (mm)"},
-             {kTx, "txtNc", -1, "Factor de capacidad Nc"},
-             {kTx, "txtNq", -1, "Factor de capacidad Nq"},
-             {kTx, "txtNg", -1, "Factor de capacidad Nγ"},
-             {kTx, "txtTa", -1, "Tensión admisible, sin redondear"},
-             {kTx, "txtTaServ", -1, "Presión de servicio granular, sin redondear"},
+             {kTx, "txtNc", -1, "Factor Nc"},
+             {kTx, "txtNq", -1, "Factor Nq"},
+             {kTx, "txtNg", -1, "Factor Nγ"},
+             {kTx, "txtTa", -1, "Tensión admisible"},
+             {kTx, "txtTaServ", -1, "Servicio granular"},
              {kTx, "txtTadm", -1, "Tensión admisible de hundimiento (kN/m2)"},
              {kTx, "txtServ", -1, "Tensión admisible de servicio (kN/m2)"},
          }),
-         MenuDef{"Cimentacion", 1, "mnuSuelo", ""}},
+         MenuDef{"Cimentacion", 1, "mnuSuelo", ""}, kGruposSuelo, &Suelo::Crea},
         {"frmZap", kCamposFrmZap,
          // Plan sizes at least 40 cm, depths 30 cm and column sides 10 cm, as the strip footing.
          {true, true, PasoComprobacion::SinArgumentos, false},
@@ -491,7 +529,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "Text3", -1, "Densidad terreno (kg/m3)"},
              {kTx, "Text2", -1, "Ángulo rozamiento terreno (º)"},
              {kTx, "Text4", -1, "Cohesión terreno"},
-             {kTx, "Text5", -1, "Valor del catálogo de suelos"},
+             {kTx, "Text5", -1, "Valor de catálogo"},
              {kTx, "txtCohesion", -1, "Cohesión relleno"},
              {kCk, "chkEmpPasivo", -1, "Empuje pasivo"},
              {kTx, "TxtCotaTacon", -1, "Canto del tacón (cm)"},

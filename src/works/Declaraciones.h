@@ -69,6 +69,13 @@ struct Declaraciones {
     std::string UltimoGuardadoRechazado;
     // Set by the check step of every element (a no-op here).
     int16_t ResultadoCalculo = 0;
+    // The warnings of a calculation, shared by the element forms: entries 1 to NAvisos of
+    // Avisos (room for indexes 0 to 50), IAviso the next free index. A calculation starts the
+    // list by setting IAviso to 1; what other events add in between stays until then.
+    static constexpr int kMaxAvisos = 50;
+    std::array<std::string, kMaxAvisos + 1> Avisos{};
+    int IAviso = 1;
+    int NAvisos = 0;
 
     // The element catalogue.
     std::array<std::string, kCatalogRows> CatalogoRotulo;

@@ -12,12 +12,12 @@
 
 namespace vardena {
 
-// Runs a handler's body; a run-time failure in it (a bad property, a field that cannot be
-// read, a file that cannot be written, any other std::exception except ProgramHalt) shows the
-// error window under `origen`, and ErrorOrigen carries the handler's name out and the answer
-// back ("Retry" or "Ok"). "Reintentar" runs the body again; any other answer ends the program
-// by throwing ProgramHalt. `prefijo` goes before the text of failures that do not name their
-// file themselves.
+// Runs a handler's body; a run-time failure in it (a run-time error such as a bad property or
+// a division by zero, a field that cannot be read, a file that cannot be written, any other
+// std::exception except ProgramHalt) shows the error window under `origen`, and ErrorOrigen
+// carries the handler's name out and the answer back ("Retry" or "Ok"). "Reintentar" runs the
+// body again; any other answer ends the program by throwing ProgramHalt. `prefijo` goes before
+// the text of failures that do not name their file themselves.
 template <typename Fn>
 auto ConVentanaError(Declaraciones& d, std::string_view origen, Fn cuerpo, const std::string& prefijo = {})
     -> decltype(cuerpo())
@@ -29,7 +29,7 @@ auto ConVentanaError(Declaraciones& d, std::string_view origen, Fn cuerpo, const
             return cuerpo();
         } catch (const ProgramHalt&) {
             throw;
-        } catch (const PropertyError& e) {
+        } catch (const ErrorEjecucion& e) {
             numero = e.number();
             descripcion = prefijo + e.what();
         } catch (const FieldError& e) {

@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <sstream>
 #include <string_view>
 
 #include "reports/RtfLector.h"
@@ -16,21 +14,9 @@
 namespace vardena {
 namespace {
 
-std::string OnPath(const std::string& program)
-{
-    const char* path = std::getenv("PATH");
-    std::stringstream dirs(path ? path : "");
-    std::string dir;
-    std::error_code ec;
-    while (std::getline(dirs, dir, ':'))
-        if (!dir.empty() && std::filesystem::exists(dir + "/" + program, ec))
-            return dir + "/" + program;
-    return {};
-}
-
 TEST(LibreOffice, ConvertsEveryFragmentTheWriterMakes)
 {
-    const std::string soffice = OnPath("soffice");
+    const std::string soffice = test::OnPath("soffice");
     if (soffice.empty())
         GTEST_SKIP() << "soffice is not on PATH";
     test::TestApp app;
@@ -41,16 +27,8 @@ TEST(LibreOffice, ConvertsEveryFragmentTheWriterMakes)
     const std::string rtf = dir / "informe.rtf";
     inf.Guarda(rtf);
 
-    // A private profile, so that the test neither needs nor touches the user's; a time limit, so
-    // that a word processor that hangs fails the test instead of stopping the suite.
-    const std::string limit = OnPath("timeout").empty() ? "" : "timeout 300 ";
     const auto convert = [&](const std::string& filter, const std::string& out) {
-        const std::string cmd = "cd '" + dir.path() + "' && " + limit + "'" + soffice + "' -env:UserInstallation=file://" +
-                                dir.path() + "/perfil --headless --convert-to '" + filter + "' --outdir '" +
-                                dir.path() + "' '" + rtf + "' >'" + dir.path() + "/log' 2>&1";
-        EXPECT_EQ(std::system(cmd.c_str()), 0) << test::ReadBytes(dir / "log");
-        EXPECT_TRUE(std::filesystem::exists(dir / out)) << test::ReadBytes(dir / "log");
-        return std::filesystem::exists(dir / out) ? test::ReadBytes(dir / out) : std::string();
+        return test::ConvierteConLibreOffice(soffice, dir.path(), rtf, filter, out);
     };
     std::string text = convert("txt:Text (encoded):UTF8", "informe.txt");
     ASSERT_FALSE(text.empty());

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <fstream>
 #include <random>
+#include <sstream>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include "works/Catalogo.h"
@@ -87,6 +89,33 @@ int RunCli(const std::string& args, std::string* out, std::string* err)
     if (err)
         *err = Slurp(tmp.path() + "/err");
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::string OnPath(const std::string& program)
+{
+    const char* path = std::getenv("PATH");
+    std::stringstream dirs(path ? path : "");
+    std::string dir;
+    std::error_code ec;
+    while (std::getline(dirs, dir, ':'))
+        if (!dir.empty() && std::filesystem::exists(dir + "/" + program, ec))
+            return dir + "/" + program;
+    return {};
+}
+
+std::string ConvierteConLibreOffice(const std::string& soffice, const std::string& carpeta, const std::string& rtf,
+                                    const std::string& filtro, const std::string& salida)
+{
+    // A private profile, so that the test neither needs nor touches the user's; a time limit, so
+    // that a word processor that hangs fails the test instead of stopping the suite.
+    const std::string limite = OnPath("timeout").empty() ? "" : "timeout 300 ";
+    const std::string cmd = "cd '" + carpeta + "' && " + limite + "'" + soffice + "' -env:UserInstallation=file://" +
+                            carpeta + "/perfil --headless --convert-to '" + filtro + "' --outdir '" + carpeta + "' '" +
+                            rtf + "' >'" + carpeta + "/log' 2>&1";
+    EXPECT_EQ(std::system(cmd.c_str()), 0) << Slurp(carpeta + "/log");
+    const std::string ruta = carpeta + "/" + salida;
+    EXPECT_TRUE(std::filesystem::exists(ruta)) << Slurp(carpeta + "/log");
+    return std::filesystem::exists(ruta) ? Slurp(ruta) : std::string();
 }
 
 }  // namespace vardena::test

@@ -60,4 +60,12 @@ Snapshot TakeSnapshot(const std::string& folder);
 // Runs the command-line tool; returns its exit code and fills the outputs.
 int RunCli(const std::string& args, std::string* out = nullptr, std::string* err = nullptr);
 
+// The path of `program` on PATH, "" when it is not there.
+std::string OnPath(const std::string& program);
+// Converts the RTF file `rtf` of the folder `carpeta` with LibreOffice (`soffice`, headless, a
+// private profile in that folder, a time limit) through `filtro`, and returns the file `salida`
+// it writes there; "" when it writes none (the test has failed then, with the log).
+std::string ConvierteConLibreOffice(const std::string& soffice, const std::string& carpeta, const std::string& rtf,
+                                    const std::string& filtro, const std::string& salida);
+
 }  // namespace vardena::test
