@@ -280,7 +280,9 @@ void Control::RawSet(std::string_view prop, std::string_view value) { props_[std
 std::string Control::Property(std::string_view prop) const
 {
     if (EqNoCase(prop, "Text"))
-        return kind_ == Kind::TextBox ? text_ : (kind_ == Kind::ComboBox || kind_ == Kind::ListBox ? SelectedText() : caption_);
+        return kind_ == Kind::TextBox || kind_ == Kind::RichTextBox
+                   ? text_
+                   : (kind_ == Kind::ComboBox || kind_ == Kind::ListBox ? SelectedText() : caption_);
     if (EqNoCase(prop, "ListIndex"))
         return std::to_string(listIndex_);
     if (EqNoCase(prop, "ListCount"))
@@ -308,7 +310,8 @@ void Control::SetProperty(std::string_view prop, std::string_view value)
     std::string v(value);
     bool b = false;
     if (EqNoCase(prop, "Text")) {
-        if (kind_ == Kind::TextBox)
+        // A text box and a rich text box hold a text; the other kinds show it as their caption.
+        if (kind_ == Kind::TextBox || kind_ == Kind::RichTextBox)
             SetText(value);
         else
             caption_ = v;
@@ -434,7 +437,7 @@ std::vector<Control*> Form::StoredControls() const
 {
     std::vector<Control*> out;
     for (const auto& c : controls_)
-        if (IsStored(c->kind()))
+        if (IsStored(c->kind()) && !c->Transitorio())
             out.push_back(c.get());
     return out;
 }

@@ -132,6 +132,11 @@ public:
     std::string Property(std::string_view prop) const;
     void SetProperty(std::string_view prop, std::string_view value);
 
+    // A control of a stored kind that a form makes at run time beyond the fields of its
+    // record (the rows of further floors): it holds a value on screen but no record keeps it.
+    bool Transitorio() const { return transitorio_; }
+    void SetTransitorio(bool t) { transitorio_ = t; }
+
     // Design-time text (text boxes) and free tag for form code.
     std::string designText;
     std::string tag;
@@ -167,6 +172,7 @@ private:
     std::string toolTip_;
     bool visible_ = true;
     bool enabled_ = true;
+    bool transitorio_ = false;
     std::string group_;
     std::map<std::string, std::string, std::less<>> props_;
     std::shared_ptr<CompositeBehavior> behavior_;
@@ -193,7 +199,8 @@ public:
     bool Has(std::string_view name, int index = -1) const { return Find(name, index) != nullptr; }
     // The members of a control array in the order of definition.
     std::vector<Control*> Members(std::string_view name) const;
-    // All controls, and the stored ones, in the order of definition.
+    // All controls, and those a record holds (stored kinds, less the transient ones), in the
+    // order of definition.
     std::vector<Control*> Controls() const;
     std::vector<Control*> StoredControls() const;
 

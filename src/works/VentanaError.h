@@ -2,6 +2,7 @@
 // The error window around a handler: a failure shows the window under the handler's label;
 // "Reintentar" runs the handler again, any other answer ends the program with the failure's text.
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,17 @@
 #include "base/VbInput.h"
 
 namespace vardena {
+
+// A run-time error of a calculation, under the run time's number: 6 overflow (0 / 0), 9 a
+// subscript out of range, 11 division by zero.
+class ErrorEjecucion : public std::runtime_error {
+public:
+    ErrorEjecucion(int number, const std::string& what) : std::runtime_error(what), number_(number) {}
+    int number() const { return number_; }
+
+private:
+    int number_;
+};
 
 // Runs a handler's body; a run-time failure in it (a bad property, a field that cannot be
 // read, a file that cannot be written, any other std::exception except ProgramHalt) shows the
@@ -30,6 +42,9 @@ auto ConVentanaError(Declaraciones& d, std::string_view origen, Fn cuerpo, const
         } catch (const ProgramHalt&) {
             throw;
         } catch (const PropertyError& e) {
+            numero = e.number();
+            descripcion = prefijo + e.what();
+        } catch (const ErrorEjecucion& e) {
             numero = e.number();
             descripcion = prefijo + e.what();
         } catch (const FieldError& e) {
