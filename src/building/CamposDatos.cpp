@@ -3,6 +3,7 @@
 
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "works/Declaraciones.h"
 
 namespace vardena {
 namespace {
@@ -56,6 +57,78 @@ TablaForm TablaDatosProy()
 
 }  // namespace
 
+// The actions window, in reading order: each action's frame of inputs with its check box and
+// map button, then its frame of results beside it; the panels of the masses per floor and of the
+// ground strata last. The rows of the masses go slab by slab, as many as the panel can hold.
+constexpr std::string_view kGrupoNieve[] = {"ChNieve", "cmbNieve", "txtNieve", "cmdAltitud"};
+constexpr std::string_view kGrupoCargaNieve[] = {"txtSobrNieve"};
+constexpr std::string_view kGrupoViento[] = {"ChViento", "cmbZonEol", "cmbEntorno", "txtAlt", "txtAnch", "TxtLong", "cmdEolica"};
+constexpr std::string_view kGrupoCargaViento[] = {"txtEsb",  "txtPres", "txtSuc",        "txtEsby",
+                                                  "txtPresy", "txtSucy", "LbAvisoViento", "RichTextBox2"};
+constexpr std::string_view kGrupoSismo[] = {"ChSismo", "TextAb",   "txtSismoK", "cmdAgG",   "cmbImportSismo",
+                                            "cmbEstruct", "cmbSueloSismo", "txtSismoC", "cmbCompart", "cmbDuct",
+                                            "txtBeta",  "CmdMasas", "cmdSueloSismo"};
+constexpr std::string_view kGrupoCargaSismica[] = {"txtRo", "txtS", "TextAc", "txtTf", "txtModo", "txtPant1", "RichTextBox3"};
+
+// The names of a group made at start-up: their texts and the views the group holds of them.
+struct NombresDeGrupo {
+    explicit NombresDeGrupo(std::vector<std::string> nombres)
+        : textos(std::move(nombres)), vistas(textos.begin(), textos.end())
+    {
+    }
+    // The views point into the texts: the object stays where it was made.
+    NombresDeGrupo(const NombresDeGrupo&) = delete;
+    NombresDeGrupo& operator=(const NombresDeGrupo&) = delete;
+    std::vector<std::string> textos;
+    std::vector<std::string_view> vistas;
+};
+
+// "Columna(i)" row by row: every column of row 0, then of row 1, and so on.
+void Filas(std::vector<std::string>& out, std::initializer_list<const char*> columnas, int filas)
+{
+    for (int i = 0; i < filas; ++i)
+        for (const char* columna : columnas)
+            out.push_back(std::string(columna) + "(" + std::to_string(i) + ")");
+}
+
+// The masses slab by slab and basement by basement, as many rows as the panel can hold, then
+// its buttons.
+std::span<const std::string_view> GrupoMasas()
+{
+    static const NombresDeGrupo grupo = [] {
+        std::vector<std::string> out;
+        Filas(out, {"TxtSupeP", "TxtLongP", "TxtSingP"}, kMaxFloors + 1);
+        Filas(out, {"TxtSupeS", "TxtLongS", "TxtSingS"}, kMaxBasements);
+        out.insert(out.end(), {"AsignaC", "UCOK"});
+        return NombresDeGrupo(std::move(out));
+    }();
+    return grupo.vistas;
+}
+
+// The strata, each thickness beside its soil type.
+std::span<const std::string_view> GrupoSuelo()
+{
+    static const NombresDeGrupo grupo = [] {
+        std::vector<std::string> out = {"txtEstratos"};
+        Filas(out, {"txtEspesor", "cmbSuelo"}, 5);
+        out.insert(out.end(), {"txtC", "UCOK2", "UCOK1"});
+        return NombresDeGrupo(std::move(out));
+    }();
+    return grupo.vistas;
+}
+
+const std::vector<GrupoDef>& GruposAcciones()
+{
+    // The inputs of each action on the left, its results with their tables on the right.
+    static const std::vector<GrupoDef> grupos = {
+        {"UCNieve", 0, kGrupoNieve, 0},       {"UCSobrNieve", 0, kGrupoCargaNieve, 1},
+        {"UCviento", 0, kGrupoViento, 0},     {"UCCargaViento", 0, kGrupoCargaViento, 1},
+        {"UCSismo", 0, kGrupoSismo, 0},       {"UCCargaSismica", 0, kGrupoCargaSismica, 1},
+        {"UCplantas", 0, GrupoMasas(), 0},    {"UCSuelo", 0, GrupoSuelo(), 1},
+    };
+    return grupos;
+}
+
 const std::vector<TablaForm>& TablasDatosYLibres()
 {
     static const std::vector<TablaForm> tablas = {
@@ -107,6 +180,8 @@ const std::vector<TablaForm>& TablasDatosYLibres()
              {kLb, "lblXX", -1, "X-X"},
              {kLb, "lblYY", -1, "Y-Y"},
              {kRt, "RichTextBox2", -1, "Tabla de viento"},
+             // Says why a wind action asked for made no table.
+             {kLb, "LbAvisoViento", -1, ""},
              // Earthquake.
              {kFr, "UCSismo", -1, "ACELERACIÓN SÍSMICA"},
              {kLb, "lblAb", -1, "Aceleración ab/g "},
@@ -135,9 +210,9 @@ const std::vector<TablaForm>& TablasDatosYLibres()
              {kLb, "lblSing", -1, "Concargas singulares (kN)"},
              {kLb, "lblPlanta", 0, "Planta x"},
              {kLb, "LbCu", -1, "Cubierta"},
-             {kBt, "AsignaC", 0, ""},
-             {kBt, "AsignaC", 1, ""},
-             {kBt, "UCOK", -1, ""},
+             {kBt, "AsignaC", 0, "Asignar a todas las plantas"},
+             {kBt, "AsignaC", 1, "Asignar a todos los sótanos"},
+             {kBt, "UCOK", -1, "Aceptar"},
              // The ground strata panel.
              {kFr, "UCSuelo", -1, "Datos del terreno"},
              {kLb, "lblEstratos", -1, "Nº de estratos en los primeros 30 m "},
@@ -189,7 +264,9 @@ const std::vector<TablaForm>& TablasDatosYLibres()
              {kTx, "txtEspesor", -1, "Espesor estrato (m)"},
              {kCb, "cmbSuelo", -1, "Tipo de terreno del estrato"},
              {kTx, "txtC", -1, "Coeficiente C de los estratos"},
-         })},
+         }),
+         {},
+         GruposAcciones()},
         TablaDatosProy(),
         // The blank element's concrete list starts at HA-25, behind its "Idem gral." row.
         TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno,

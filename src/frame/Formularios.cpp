@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "building/Acciones.h"
 #include "building/DatosGen.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
@@ -26,6 +27,7 @@ const std::vector<FormPropio>& FormsPropios()
 {
     static const std::vector<FormPropio> propios = {
         {"DatosGen", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<DatosGen>(d); }},
+        {"frmAccio", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<Acciones>(d); }},
     };
     return propios;
 }
