@@ -103,15 +103,22 @@ QWidget* VentanaElemento::CreaDatos()
     auto* contenido = new QWidget();
     auto* columnas = new QHBoxLayout(contenido);
     columnas->setContentsMargins(0, 0, 0, 0);
-    constexpr int kColumnas = 3;
-    QVBoxLayout* columna[kColumnas];
-    int alto[kColumnas] = {};
+    // Three columns, or as many as the form's groups name: a group that names its column stands
+    // there, the others go to the least filled one.
+    const std::vector<GrupoCampos> grupos = AgrupaCampos(*form_);
+    int pedidas = 0;
+    for (const GrupoCampos& g : grupos)
+        pedidas = std::max(pedidas, g.columna + 1);
+    const size_t kColumnas = pedidas > 0 ? static_cast<size_t>(pedidas) : 3;
+    std::vector<QVBoxLayout*> columna(kColumnas);
+    std::vector<int> alto(kColumnas, 0);
     for (auto*& c : columna) {
         c = new QVBoxLayout();
         columnas->addLayout(c, 1);
     }
-    for (const GrupoCampos& g : AgrupaCampos(*form_)) {
-        const int k = static_cast<int>(std::min_element(alto, alto + kColumnas) - alto);
+    for (const GrupoCampos& g : grupos) {
+        const size_t k = g.columna >= 0 ? static_cast<size_t>(g.columna)
+                                        : static_cast<size_t>(std::min_element(alto.begin(), alto.end()) - alto.begin());
         columna[k]->addWidget(CreaGrupo(g));
         alto[k] += AltoDeGrupo(g);
     }
@@ -137,8 +144,15 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     for (Control* c : g.miembros) {
         QWidget* w = vista_->De(*c).widget();
         const int base = col * 3;
-        if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton || c->kind() == Kind::CommandButton) {
+        if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton || c->kind() == Kind::CommandButton ||
+            c->kind() == Kind::Label) {
             rejilla->addWidget(w, fila, base, 1, 3);
+        } else if (c->kind() == Kind::RichTextBox && !c->Get("FontName").empty()) {
+            // A table the form makes: its title above it, the table the whole width of the group.
+            QLabel* titulo = Etiqueta(EtiquetaDe(*c));
+            etiquetas_.push_back({c, titulo});
+            rejilla->addWidget(titulo, fila, base, 1, 3);
+            rejilla->addWidget(w, ++fila, base, 1, 3);
         } else if (c->kind() == Kind::RichTextBox) {
             w->setMaximumHeight(140);
             rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base, Qt::AlignTop);
@@ -147,7 +161,10 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
             rejilla->addWidget(Etiqueta(EtiquetaDe(*c)), fila, base);
             rejilla->addWidget(w, fila, base + 1, 1, dosPorFila ? 2 : 5);
         } else {
-            rejilla->addWidget(Etiqueta(EtiquetaEnGrupo(*c, g)), fila, base);
+            // The caption goes and comes with its field.
+            QLabel* etiqueta = Etiqueta(EtiquetaEnGrupo(*c, g));
+            etiquetas_.push_back({c, etiqueta});
+            rejilla->addWidget(etiqueta, fila, base);
             rejilla->addWidget(w, fila, base + 1);
             if (auto* linea = qobject_cast<QLineEdit*>(w)) {
                 linea->setMinimumWidth(c->Name() == "txtTitulo" ? 150 : 64);
@@ -218,6 +235,8 @@ QWidget* VentanaElemento::CreaPanel()
 
 void VentanaElemento::Actualiza()
 {
+    for (const auto& [control, etiqueta] : etiquetas_)
+        etiqueta->setVisible(control->Visible());
     const Control* rtb = form_->Find("RichTextBox1");
     const bool resultado = rtb && rtb->Visible() && pila_->count() > 1;
     pila_->setCurrentIndex(resultado ? 1 : 0);

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/GruposVentana.h"
@@ -64,6 +65,8 @@ private:
 
     QStackedWidget* pila_ = nullptr;
     QPushButton* listado_ = nullptr;
+    // The caption beside each field, shown while its field is.
+    std::vector<std::pair<const Control*, QLabel*>> etiquetas_;
 };
 
 // The building's general data, with the section drawn from the form's layout.

@@ -109,10 +109,13 @@ struct MenuDef {
 // name brings every member in index order; "Name(i)" brings one member. Any kind may stand in
 // a declared group, a sketch or a result view as well as the fields. The controls a form's
 // groups leave out fall to the groups its kinds and names give (frame/GruposVentana.h).
+// `columna` places the group in that column of the window (from 0), so that a frame stands
+// beside the frame it belongs with; -1 leaves it to the least filled column.
 struct GrupoDef {
     std::string_view marco;
     int mensaje = 0;
     std::span<const std::string_view> controles;
+    int columna = -1;
 };
 
 // The definition of a form: its name, its stored fields in the order of its

@@ -45,6 +45,7 @@ std::vector<GrupoCampos> GruposDeclarados(const Form& form, std::set<const Contr
         return out;
     for (const GrupoDef& def : tabla->grupos) {
         GrupoCampos g;
+        g.columna = def.columna;
         const Control* marco = def.marco.empty() ? nullptr : form.Find(std::string(def.marco));
         g.titulo = marco ? marco->Caption() : form.decl().Msg(def.mensaje);
         for (std::string_view nombre : def.controles) {

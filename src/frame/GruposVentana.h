@@ -13,6 +13,7 @@ namespace vardena {
 struct GrupoCampos {
     std::string titulo;
     std::vector<Control*> miembros;
+    int columna = -1;  // the window's column its definition asks for; -1 for any
 };
 // The data fields of an element form grouped for display: the groups its definition declares
 // first, then by kind and name: the element's identity, materials,
