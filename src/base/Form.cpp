@@ -397,6 +397,17 @@ Control& Form::Add(Kind kind, std::string name, int index)
     return *controls_.back();
 }
 
+Control& Form::AddCopyOfPrevious(std::string_view name, int index)
+{
+    const Control& previous = At(name, index - 1);
+    Control& c = Add(previous.kind(), previous.Name(), index);
+    c.designText = previous.Text();
+    c.SetText(previous.Text());
+    c.SetCaption(previous.Caption());
+    c.onKeyPress = previous.onKeyPress;
+    return c;
+}
+
 Control* Form::Find(std::string_view name, int index) const
 {
     for (const auto& c : controls_)

@@ -192,6 +192,9 @@ public:
 
     // Adds a control at the end of the order of definition.
     Control& Add(Kind kind, std::string name, int index = -1);
+    // Makes member `index` of an array at run time, as a copy of the member before it: its kind,
+    // text (also as design text), caption and key handler. The member before it must exist.
+    Control& AddCopyOfPrevious(std::string_view name, int index);
     // Looks a control up by name (without regard to case, as the run time did) and index.
     Control* Find(std::string_view name, int index = -1) const;
     // As Find, but a missing control is a PropertyError naming it.

@@ -1,6 +1,7 @@
 #include "building/Acciones.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -90,12 +91,22 @@ std::string Cabecera(const std::string& titulo, const std::string& columnas, con
 
 std::string NumeroFila(int n) { return "    " + VbStr(static_cast<double>(n)); }
 
-// A text box's value as the report shows a number: with the mask, when it holds one.
+// Whether a text is a number and nothing else: sign, digits, one decimal point, an exponent.
+bool EsNumero(const std::string& item)
+{
+    if (item.empty() || item.find_first_not_of("0123456789+-.eE") != std::string::npos)
+        return false;
+    char* fin = nullptr;
+    std::strtod(item.c_str(), &fin);
+    return fin && *fin == '\0';
+}
+
+// A text box's value as the report shows a number: with the mask when it holds one, as it stands
+// when it holds a word ("Estudio especial").
 std::string Mascara00(const std::string& texto)
 {
-    std::string copia = texto;
-    const double v = ValComa(copia);
-    return v != 0 || texto.find_first_of("0123456789") != std::string::npos ? Formato00(v) : texto;
+    const std::string numero = CambiaCar(texto, ",", ".");
+    return EsNumero(numero) ? Formato00(ValComaCopy(numero)) : texto;
 }
 
 // The text of a number as a box shows it when it is given one: "0.5", "-0.6". A Single shows
@@ -109,8 +120,8 @@ std::string ConCero(std::string t)
 std::string Texto(double v) { return ConCero(FormatoNum(v)); }
 std::string Texto(float v) { return ConCero(FormatoNum(v)); }
 
-// The tab-separated list of a message, item by item; missing items are empty.
-std::string Elemento(const Declaraciones& d, int mensaje, int n) { return Palabra(n, d.Msg(mensaje), "\t"); }
+// Label `n` (from 1) of a message that holds a tab-separated list of them; "" when it lacks it.
+std::string Rotulo(const Declaraciones& d, int mensaje, int n) { return Palabra(n, d.Msg(mensaje), "\t"); }
 
 // The items of the snow table in reading order: quoted texts as they stand, others up to a comma,
 // a blank or a line end. Comment lines are left out.
@@ -125,7 +136,8 @@ public:
             texto_ += linea + "\n";
         }
     }
-    // The next item; false when there is none left.
+    // The next item; false when there is none left. A text item (`hastaComa`) runs to a comma or
+    // a line end, a number also stops at a blank.
     bool Siguiente(std::string& item, bool hastaComa)
     {
         while (pos_ < texto_.size() && std::string_view(" \t\n").find(texto_[pos_]) != std::string_view::npos)
@@ -159,16 +171,80 @@ private:
     size_t pos_ = 0;
 };
 
-// Whether an item is a whole number text: sign, digits, one decimal point, an exponent.
-bool EsNumero(const std::string& item)
+// The floors of the modal analysis from the ground up, index 1 to n (0 and n + 1 stay 0):
+// weight (t), height (m), the force of each mode 1 to 3 (t) and the storey shear they combine to.
+struct Modal {
+    explicit Modal(int plantas)
+        : n(plantas), P(Filas(plantas)), z(Filas(plantas)), V(Filas(plantas)), F(Filas(plantas).size())
+    {
+    }
+    static std::vector<double> Filas(int n) { return std::vector<double>(static_cast<size_t>(n) + 2, 0.0); }
+    int n;
+    std::vector<double> P, z, V;
+    std::vector<std::array<double, 4>> F;  // F[i][k]
+};
+
+// What the spectrum gives the modes: how many, the fundamental and corner periods (s), the
+// calculation acceleration (g), the response coefficient and the building's height (m).
+struct EspectroModal {
+    int modos;
+    double TF, TB, ac, beta, H;
+};
+
+// The sentences of the divisions of the analysis that can meet a zero: the height, the corner
+// period, the masses.
+struct Divisiones {
+    std::string altura, periodo, masas;
+};
+
+// The mode shapes phi = sin((2k - 1) pi z / 2H); the spectrum's alpha of each mode's period; the
+// modal forces F = P eta alpha ac beta with eta = phi (sum P phi) / (sum P phi2); and the storey
+// shears combined by the square root of the sum of the squares.
+void AnalisisModal(const EspectroModal& e, const Divisiones& div, Modal& m)
 {
-    if (item.empty())
-        return false;
-    char* fin = nullptr;
-    std::strtod(item.c_str(), &fin);
-    return fin && *fin == '\0';
+    const size_t n = static_cast<size_t>(m.n);
+    std::vector<std::array<double, 4>> phi(n + 2, std::array<double, 4>{});
+    for (int k = 1; k <= e.modos; ++k) {
+        const double T = e.TF / (2.0 * k - 1);
+        const double alpha = T < e.TB ? 2.5 : 2.5 * Divide(e.TB, T, div.periodo);
+        double suma = 0, suma2 = 0;
+        for (size_t j = 1; j <= n; ++j) {
+            phi[j][k] = std::sin((2.0 * k - 1) * kPi * Divide(m.z[j], 2 * e.H, div.altura));
+            suma += m.P[j] * phi[j][k];
+            suma2 += m.P[j] * phi[j][k] * phi[j][k];
+        }
+        for (size_t i = 1; i <= n; ++i)
+            m.F[i][k] = m.P[i] * phi[i][k] * Divide(suma, suma2, div.masas) * alpha * e.ac * e.beta;
+    }
+    for (size_t i = 1; i <= n; ++i) {
+        double cuadrados = 0;
+        for (int k = 1; k <= e.modos; ++k) {
+            double cortante = 0;
+            for (size_t j = i; j <= n; ++j)
+                cortante += m.F[j][k];
+            cuadrados += cortante * cortante;
+        }
+        m.V[i] = std::sqrt(cuadrados);
+    }
 }
 
+// The two seismic tables, the top floor first, forces in kN: the force of each mode, then the
+// weight and the equivalent force of each floor.
+std::string TablasSismo(const Declaraciones& d, const Modal& m)
+{
+    std::string texto = Cabecera(d.Msg(1301), Une({d.Msg(995), d.Msg(996), d.Msg(997), d.Msg(997), d.Msg(997)}, kTab),
+                                 Une({"        ", "  (m) ", d.Msg(998) + " 1", d.Msg(998) + " 2", d.Msg(998) + " 3"}, kTab));
+    for (size_t i = static_cast<size_t>(m.n); i >= 1; --i)
+        texto += kCrLf + NumeroFila(static_cast<int>(i)) + kTab + Formato00(m.z[i]) + kTab + Formato00(10 * m.F[i][1]) +
+                 kTab + Formato00(10 * m.F[i][2]) + kTab + "   " + Formato00(10 * m.F[i][3]);
+    texto += std::string(kCrLf) + kCrLf +
+             Cabecera(d.Msg(1302), Une({d.Msg(990), d.Msg(991), "P.", d.Msg(990), "", "Fk "}, kTab),
+                      Une({"        ", "  (m) ", " (kN)", "     ", " (kN)"}, kTab));
+    for (size_t i = static_cast<size_t>(m.n); i >= 1; --i)
+        texto += kCrLf + NumeroFila(static_cast<int>(i)) + kTab + Formato00(m.z[i]) + kTab + Formato0(10 * m.P[i]) +
+                 kTab + "     " + kTab + Formato00(10 * (m.V[i] - m.V[i + 1]));
+    return texto;
+}
 }  // namespace
 
 // ---- Tables ----
@@ -280,14 +356,10 @@ double Acciones::LeeNumero(const char* control, int index) const { return ValCom
 
 bool Acciones::PlantasAdmitidas()
 {
-    const Declaraciones& d = decl();
+    Declaraciones& d = decl();
     if (PlantasEnTablas(d))
         return true;
-    const std::string texto = TextoPlantas(d);
-    decl().UltimoGuardadoRechazado = texto;
-    if (!plantasAvisadas_)
-        decl().ui.MsgBox(texto, mb::Exclamation, Caption());
-    plantasAvisadas_ = true;
+    d.ui.MsgBox(TextoPlantas(d), mb::Exclamation, Caption());
     return false;
 }
 
@@ -340,9 +412,11 @@ void Acciones::CmdCalcular_Acciones()
 {
     Declaraciones& d = decl();
     d.UltimoGuardadoRechazado.clear();
-    plantasAvisadas_ = false;
-    if (!PlantasAdmitidas())
+    // Nothing is calculated or saved: the user has been told why.
+    if (!PlantasAdmitidas()) {
+        d.UltimoGuardadoRechazado = TextoPlantas(d);
         return;
+    }
     CmdCalcular_Click();
     if (UltimoGuardado().empty())
         return;
@@ -353,12 +427,7 @@ void Acciones::CmdCalcular_Acciones()
         const int16_t antes = d.Cargando;
         d.Cargando = kTrue;
         std::string titulo = kTitulo;
-        try {
-            LeeForm(*this, titulo);
-        } catch (...) {
-            d.Cargando = antes;
-            throw;
-        }
+        LeeForm(*this, titulo);
         d.Cargando = antes;
     });
 }
@@ -387,6 +456,13 @@ void Acciones::CalculaAcciones()
         At("RichTextBox3").SetText("");
 }
 
+std::string Acciones::SinEleccion(const char* lista)
+{
+    const std::string aviso = Mensaje(decl(), 1519, {At(lista).Caption()});
+    decl().ui.MsgBox(aviso, mb::Exclamation, Caption());
+    return aviso;
+}
+
 // ---- Snow ----
 
 void Acciones::CalculaNieve()
@@ -396,9 +472,7 @@ void Acciones::CalculaNieve()
     const int fila = FilaNieve(LeeNumero("txtNieve"));
     const int zona = At("cmbNieve").ListIndex();
     if (zona < 0 || zona >= kZonasNieve) {
-        const std::string aviso = Mensaje(d, 1519, {At("cmbNieve").Caption()});
-        d.ui.MsgBox(aviso, mb::Exclamation, Caption());
-        avisos_.push_back(aviso);
+        avisos_.push_back(SinEleccion("cmbNieve"));
         At("txtSobrNieve").SetText("");
         return;
     }
@@ -475,9 +549,7 @@ void Acciones::CalculaViento()
     const int entorno = At("cmbEntorno").ListIndex();
     if (zona < 0 || entorno < 0) {
         // Without a wind zone or a terrain class there are no pressures to give.
-        const std::string aviso = Mensaje(d, 1519, {At(zona < 0 ? "cmbZonEol" : "cmbEntorno").Caption()});
-        d.ui.MsgBox(aviso, mb::Exclamation, Caption());
-        AvisoViento(true, aviso);
+        AvisoViento(true, SinEleccion(zona < 0 ? "cmbZonEol" : "cmbEntorno"));
         return;
     }
     d.AccZona = static_cast<float>(zona);
@@ -614,9 +686,7 @@ void Acciones::CalculaSismo()
     const int estructura = At("cmbEstruct").ListIndex();
     const int ductilidad = At("cmbDuct").ListIndex();
     if (estructura < 0 || ductilidad < 0) {
-        const std::string aviso = Mensaje(d, 1519, {At(estructura < 0 ? "cmbEstruct" : "cmbDuct").Caption()});
-        d.ui.MsgBox(aviso, mb::Exclamation, Caption());
-        avisos_.push_back(aviso);
+        avisos_.push_back(SinEleccion(estructura < 0 ? "cmbEstruct" : "cmbDuct"));
         At("RichTextBox3").SetText("");
         return;
     }
@@ -678,66 +748,21 @@ void Acciones::CalculaSismo()
         cerramiento /= 100;
 
     // Floors from the ground up: floor i stands at level n - i of the general data.
-    std::vector<double> P(static_cast<size_t>(n) + 2, 0.0), z(static_cast<size_t>(n) + 2, 0.0);
-    double alpha[4] = {};
-    double phi[4][kMaxFloors + 2] = {};
+    Modal m(n);
     double altura = 0;
-    for (int k = 1; k <= modos; ++k) {
-        const double T = d.AccTF / (2.0 * k - 1);
-        alpha[k] = T < d.AccTB ? 2.5 : 2.5 * Divide(d.AccTB, T, porCero(d.AccK == 0 ? "txtSismoK" : "txtSismoC"));
-    }
     for (int i = 1; i <= n; ++i) {
         const size_t g = static_cast<size_t>(n - i);
         altura += d.GenCot[g];
-        z[static_cast<size_t>(i)] = altura;
+        m.z[static_cast<size_t>(i)] = altura;
         const double q = d.GenPProP[g] + d.GenConcP[g] + d.GenSTabP[g] + 0.5 * d.GenSobrP[g];
-        P[static_cast<size_t>(i)] = q * LeeNumero("TxtSupeP", i) + cerramiento * LeeNumero("TxtLongP", i) +
-                                    LeeNumero("TxtSingP", i);
-        for (int k = 1; k <= modos; ++k)
-            phi[k][i] = std::sin((2.0 * k - 1) * kPi * Divide(altura, 2 * H, porCero("txtAlt")));
+        m.P[static_cast<size_t>(i)] = q * LeeNumero("TxtSupeP", i) + cerramiento * LeeNumero("TxtLongP", i) +
+                                      LeeNumero("TxtSingP", i);
     }
-    // Forces of each mode, then the storey shears combined by the square root of the sum of squares.
-    double F[4][kMaxFloors + 2] = {};
-    for (int k = 1; k <= modos; ++k) {
-        double suma = 0, suma2 = 0;
-        for (int j = 1; j <= n; ++j) {
-            suma += P[static_cast<size_t>(j)] * phi[k][j];
-            suma2 += P[static_cast<size_t>(j)] * phi[k][j] * phi[k][j];
-        }
-        for (int i = 1; i <= n; ++i) {
-            const double eta = phi[k][i] * Divide(suma, suma2, porCero("UCplantas"));
-            const double s = eta * alpha[k] * d.AccAc * beta;
-            F[k][i] = P[static_cast<size_t>(i)] * s;
-        }
-    }
-    std::vector<double> V(static_cast<size_t>(n) + 2, 0.0);
-    for (int i = 1; i <= n; ++i) {
-        double cuadrados = 0;
-        for (int k = 1; k <= modos; ++k) {
-            double cortante = 0;
-            for (int j = i; j <= n; ++j)
-                cortante += F[k][j];
-            cuadrados += cortante * cortante;
-        }
-        V[static_cast<size_t>(i)] = std::sqrt(cuadrados);
-    }
-
-    // Both tables list the top floor first; forces in kN.
-    std::string texto = Cabecera(d.Msg(1301), Une({d.Msg(995), d.Msg(996), d.Msg(997), d.Msg(997), d.Msg(997)}, kTab),
-                                 Une({"        ", "  (m) ", d.Msg(998) + " 1", d.Msg(998) + " 2", d.Msg(998) + " 3"}, kTab));
-    for (int i = n; i >= 1; --i)
-        texto += kCrLf + NumeroFila(i) + kTab + Formato00(z[static_cast<size_t>(i)]) + kTab + Formato00(10 * F[1][i]) +
-                 kTab + Formato00(10 * F[2][i]) + kTab + "   " + Formato00(10 * F[3][i]);
-    texto += std::string(kCrLf) + kCrLf +
-             Cabecera(d.Msg(1302), Une({d.Msg(990), d.Msg(991), "P.", d.Msg(990), "", "Fk "}, kTab),
-                      Une({"        ", "  (m) ", " (kN)", "     ", " (kN)"}, kTab));
-    for (int i = n; i >= 1; --i) {
-        const size_t u = static_cast<size_t>(i);
-        texto += kCrLf + NumeroFila(i) + kTab + Formato00(z[u]) + kTab + Formato0(10 * P[u]) + kTab + "     " + kTab +
-                 Formato00(10 * (V[u] - V[u + 1]));
-    }
+    const EspectroModal espectro{modos, d.AccTF, d.AccTB, d.AccAc, beta, H};
+    const Divisiones divisiones{porCero("txtAlt"), porCero(d.AccK == 0 ? "txtSismoK" : "txtSismoC"), porCero("UCplantas")};
+    AnalisisModal(espectro, divisiones, m);
     Control& tabla = At("RichTextBox3");
-    tabla.SetText(texto);
+    tabla.SetText(TablasSismo(d, m));
     tabla.RawSet("ForeColor", "255");
 }
 
@@ -813,16 +838,9 @@ void Acciones::ColocaMasas()
     // Row 0 is the designed row; a row made now copies the row above it. The record keeps the
     // designed rows only: the rows made here live as long as the form.
     auto asegura = [this](const char* nombre, int hasta) {
-        for (int i = 1; i <= hasta; ++i) {
-            if (Find(nombre, i))
-                continue;
-            Control& c = Add(Kind::TextBox, nombre, i);
-            c.SetTransitorio(true);
-            const Control& arriba = At(nombre, i - 1);
-            c.designText = arriba.Text();
-            c.SetText(arriba.Text());
-            c.SetCaption(arriba.Caption());
-        }
+        for (int i = 1; i <= hasta; ++i)
+            if (!Find(nombre, i))
+                AddCopyOfPrevious(nombre, i).SetTransitorio(true);
     };
     for (const char* nombre : kMasasP)
         asegura(nombre, n);
@@ -905,6 +923,9 @@ void Acciones::MuestraMapa(const char* dialogo)
 void Acciones::cmdAltitud_Click()
 {
     Declaraciones& d = decl();
+    // The map starts from what the form shows, and a map closed with nothing chosen changes nothing.
+    d.AccZonaNieve = static_cast<int16_t>(At("cmbNieve").ListIndex());
+    d.AccAltNieve = static_cast<float>(LeeNumero("txtNieve"));
     MuestraMapa("frmECGn");
     At("cmbNieve").SetListIndex(d.AccZonaNieve);
     At("txtNieve").SetText(Texto(d.AccAltNieve));
@@ -913,6 +934,7 @@ void Acciones::cmdAltitud_Click()
 void Acciones::cmdEolica_Click()
 {
     Declaraciones& d = decl();
+    d.AccZona = static_cast<float>(At("cmbZonEol").ListIndex());
     MuestraMapa("frmECV");
     At("cmbZonEol").SetListIndex(static_cast<int>(d.AccZona));
 }
@@ -920,6 +942,8 @@ void Acciones::cmdEolica_Click()
 void Acciones::cmdAgG_Click()
 {
     Declaraciones& d = decl();
+    d.AccAb = static_cast<float>(LeeNumero("TextAb"));
+    d.AccK = static_cast<float>(LeeNumero("txtSismoK"));
     MuestraMapa("frmNCSE02");
     At("TextAb").SetText(Formato00(d.AccAb));
     At("txtSismoK").SetText(Formato00(d.AccK));
@@ -977,21 +1001,21 @@ void Acciones::EscribeAcciones()
     }
     if (Marcada(At("ChSismo"))) {
         inf.Linea("Tit3", d.Msg(1510));
-        par(Elemento(d, 1511, 1), caja("TextAb"));
-        par(Elemento(d, 1511, 2), caja("txtSismoK"));
-        par(Elemento(d, 1511, 3), lista("cmbImportSismo"));
-        par(Elemento(d, 1511, 4), lista("cmbEstruct"));
-        par(Elemento(d, 1511, 5), lista("cmbSueloSismo"));
+        par(Rotulo(d, 1511, 1), caja("TextAb"));
+        par(Rotulo(d, 1511, 2), caja("txtSismoK"));
+        par(Rotulo(d, 1511, 3), lista("cmbImportSismo"));
+        par(Rotulo(d, 1511, 4), lista("cmbEstruct"));
+        par(Rotulo(d, 1511, 5), lista("cmbSueloSismo"));
         par("             C= ", caja("txtSismoC"));
-        par(Elemento(d, 1511, 6), lista("cmbCompart"));
-        par(Elemento(d, 1511, 7), lista("cmbDuct"));
+        par(Rotulo(d, 1511, 6), lista("cmbCompart"));
+        par(Rotulo(d, 1511, 7), lista("cmbDuct"));
         par("        Beta= ", caja("txtBeta"));
-        par(Elemento(d, 1512, 1), caja("txtRo"));
-        par(Elemento(d, 1512, 2), caja("txtS"));
-        par(Elemento(d, 1512, 3), caja("txtPant1"));
-        par(Elemento(d, 1512, 4), caja("txtTf"));
-        par(Elemento(d, 1512, 5), caja("txtModo"));
-        par(Elemento(d, 1512, 6), caja("TextAc"));
+        par(Rotulo(d, 1512, 1), caja("txtRo"));
+        par(Rotulo(d, 1512, 2), caja("txtS"));
+        par(Rotulo(d, 1512, 3), caja("txtPant1"));
+        par(Rotulo(d, 1512, 4), caja("txtTf"));
+        par(Rotulo(d, 1512, 5), caja("txtModo"));
+        par(Rotulo(d, 1512, 6), caja("TextAc"));
         tabla("RichTextBox3");
     }
     inf.Linea("Tit3", d.Msg(29));

@@ -5,7 +5,6 @@
 // "Acciones", and writes its results file each time it calculates.
 
 #include <array>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -60,7 +59,8 @@ public:
     void EscribeAcciones();
     void ColocaMasas();
 
-    // Its events.
+    // Its events. The button: when the floors fit, the three calculations, the results file and
+    // the save, then the record read back; when not, a message and nothing else.
     void CmdCalcular_Acciones();
     void ChAccion_Click(const std::string& casilla);
     void cmbImportSismo_Click();
@@ -77,8 +77,9 @@ public:
     void cmdEolica_Click();
     void cmdAgG_Click();
 
-    // What the last calculation did: whether the wind action was asked for and gave no table
-    // (the building's width or length is not above 0), and its warnings, as the report lists them.
+    // What the last calculation did: whether the wind action was asked for and gave no table (the
+    // building's width or length is not above 0, or no wind zone or terrain class is chosen), and
+    // its warnings, as the report lists them.
     bool SinTablaViento() const { return sinTablaViento_; }
     const std::vector<std::string>& Avisos() const { return avisos_; }
 
@@ -91,7 +92,7 @@ private:
     // result of each one not checked is emptied.
     void CalculaAcciones();
     // Whether the building's floors fit the tables of the calculation; when not, the user is told
-    // (once per form) and nothing is calculated.
+    // and nothing is calculated.
     bool PlantasAdmitidas();
     // The frames of an action follow its check box.
     void ActivaAccion(const std::string& casilla);
@@ -104,15 +105,18 @@ private:
     void Amortiguamiento();
     // Shows a map dialog by name when there is one; its choice comes back in the shared values.
     void MuestraMapa(const char* dialogo);
+    // Tells the user that an action was not calculated because list `lista` has no row chosen,
+    // and returns the sentence for the warnings.
+    std::string SinEleccion(const char* lista);
     // The warning of the wind when it could make no table.
     void AvisoViento(bool sinTabla, const std::string& texto = {});
-    // The wind table of one plan direction; empty when the dimension is not above 0.
+    // Adds the wind table of one plan direction to `texto` and shows its coefficients; false, with
+    // nothing added, when the plan dimension is not above 0.
     bool TablaViento(const char* dimension, const char* esbeltez, const char* presion, const char* succion,
                      const std::string& direccion, std::string& texto);
     double LeeNumero(const char* control, int index = -1) const;
 
     bool sinTablaViento_ = false;
-    bool plantasAvisadas_ = false;
     std::vector<std::string> avisos_;
 };
 

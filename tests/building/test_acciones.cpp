@@ -523,32 +523,37 @@ TEST_F(FormAcciones, ANewRecordTakesTheDefaultsAndAReadRecordKeepsEveryField)
     EXPECT_NE(g->At("RichTextBox1").Text().find("Obra de prueba"), std::string::npos) << "its results file";
 }
 
-TEST_F(FormAcciones, MapButtonsCopyTheSharedValuesBackWhenThereIsNoDialog)
+TEST_F(FormAcciones, MapButtonsStartFromTheFormAndChangeNothingWhenNoMapIsChosen)
 {
     auto f = Edificio();
     int mostrados = 0;
     d.MuestraDialogo = [&](Form&) { ++mostrados; };
+    // Shared values left by an earlier map do not overwrite what the form shows.
     d.AccZonaNieve = 5;
     d.AccAltNieve = 850;
+    f->At("txtNieve").SetText("650");
+    f->At("cmbNieve").SetListIndex(2);
     f->At("cmdAltitud").Click();
-    EXPECT_EQ(f->At("cmbNieve").ListIndex(), 5);
-    EXPECT_EQ(f->At("txtNieve").Text(), "850");
-    d.AccZona = -1;
+    EXPECT_EQ(f->At("cmbNieve").ListIndex(), 2);
+    EXPECT_EQ(f->At("txtNieve").Text(), "650");
+    EXPECT_EQ(d.AccAltNieve, 650.0f) << "what a map dialog starts from";
+    d.AccZona = 2;
     f->At("cmdEolica").Click();
-    EXPECT_EQ(f->At("cmbZonEol").ListIndex(), -1) << "a click outside the zones chooses none";
-    d.AccAb = 0.125f;
-    d.AccK = 1.3f;
+    EXPECT_EQ(f->At("cmbZonEol").ListIndex(), 0);
+    d.AccAb = 0.2f;
+    f->At("TextAb").SetText("0.125");
     f->At("cmbEstruct").SetListIndex(1);
     f->At("cmbDuct").SetListIndex(1);
     f->At("txtBeta").SetText("");
     f->At("cmdAgG").Click();
-    EXPECT_EQ(f->At("TextAb").Text(), "0.13");
-    EXPECT_EQ(f->At("txtSismoK").Text(), "1.30");
-    EXPECT_EQ(f->At("txtBeta").Text(), "0.50");
-    EXPECT_EQ(mostrados, 0) << "no dialog form exists to be shown";
+    EXPECT_EQ(f->At("TextAb").Text(), "0.13") << "shown as the map gives it";
+    EXPECT_EQ(f->At("txtSismoK").Text(), "1.00");
+    EXPECT_EQ(f->At("txtBeta").Text(), "0.50") << "beta follows";
+    EXPECT_EQ(mostrados, 0) << "no map dialog exists to be shown";
 
     // No wind zone: the wind says why it made no table.
     d.Mensajes[1519] = "Nada elegido en %1";
+    f->At("cmbZonEol").SetListIndex(-1);
     f->At("CmdCalcular").Click();
     EXPECT_TRUE(f->SinTablaViento());
     EXPECT_EQ(f->At("LbAvisoViento").Caption(), "Nada elegido en Zona eólica");
