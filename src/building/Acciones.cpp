@@ -124,7 +124,8 @@ std::string Texto(float v) { return ConCero(FormatoNum(v)); }
 std::string Rotulo(const Declaraciones& d, int mensaje, int n) { return Palabra(n, d.Msg(mensaje), "\t"); }
 
 // The items of the snow table in reading order: quoted texts as they stand, others up to a comma,
-// a blank or a line end. Comment lines are left out.
+// a blank or a line end, so that the two headings may stand on one line ("ALTITUD ZONAS").
+// Comment lines are left out.
 class LectorNieve {
 public:
     explicit LectorNieve(std::string_view texto)
@@ -136,9 +137,8 @@ public:
             texto_ += linea + "\n";
         }
     }
-    // The next item; false when there is none left. A text item (`hastaComa`) runs to a comma or
-    // a line end, a number also stops at a blank.
-    bool Siguiente(std::string& item, bool hastaComa)
+    // The next item; false when there is none left.
+    bool Siguiente(std::string& item)
     {
         while (pos_ < texto_.size() && std::string_view(" \t\n").find(texto_[pos_]) != std::string_view::npos)
             ++pos_;
@@ -152,7 +152,7 @@ public:
             item = texto_.substr(pos_ + 1, fin - pos_ - 1);
             pos_ = fin < texto_.size() && texto_[fin] == '"' ? fin + 1 : fin;
         } else {
-            fin = texto_.find_first_of(hastaComa ? ",\n" : ", \t\n", pos_);
+            fin = texto_.find_first_of(", \t\n", pos_);
             if (fin == std::string::npos)
                 fin = texto_.size();
             item = texto_.substr(pos_, fin - pos_);
@@ -258,13 +258,13 @@ TablaNieve LeeTablaNieve(const Declaraciones& d, const std::string& path)
     std::string item;
     int leidos = 0;
     for (int i = 0; i < 2; ++i, ++leidos)
-        if (!lector.Siguiente(item, true))
+        if (!lector.Siguiente(item))
             throw FileError(path, Mensaje(d, 1514, {std::to_string(leidos + 1)}));
     TablaNieve tabla{};
     for (auto& fila : tabla)
         for (float& carga : fila) {
             ++leidos;
-            if (!lector.Siguiente(item, false) || !EsNumero(item))
+            if (!lector.Siguiente(item) || !EsNumero(item))
                 throw FileError(path, Mensaje(d, 1514, {std::to_string(leidos)}));
             carga = static_cast<float>(std::strtod(item.c_str(), nullptr));
         }

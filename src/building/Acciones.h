@@ -22,9 +22,10 @@ inline constexpr int kZonasNieve = 7;
 inline constexpr float kNieveEstudioAparte = 100;
 using TablaNieve = std::array<std::array<float, kZonasNieve>, kFilasNieve>;
 
-// Reads the snow table: two heading items, then the 98 loads row by row, separated by commas,
-// blanks or line ends. A line whose first non-blank character is ' or ; is a comment. A missing
-// file, or one with too few loads or an item that is no number, throws FileError naming it.
+// Reads the snow table: two heading items, then the 98 loads row by row, items separated by
+// commas, blanks or line ends (a heading in double quotes may hold blanks). A line whose first
+// non-blank character is ' or ; is a comment. A missing file, or one with too few loads or an
+// item that is no number, throws FileError naming it.
 TablaNieve LeeTablaNieve(const Declaraciones& d, const std::string& path);
 // The row (1 to 14) of the snow table for an altitude in metres; each limit belongs to the row
 // above it (200 m is row 2).

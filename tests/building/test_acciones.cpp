@@ -162,6 +162,24 @@ TEST_F(FormAcciones, AMissingOrShortSnowTableGoesToTheErrorWindowAndNothingIsSav
     }
 }
 
+TEST_F(FormAcciones, TheSnowTableMayHoldItsHeadingsOnOneLineAndACommentPerRow)
+{
+    // The layout of the table the program installs: unquoted headings on one line, a comment
+    // before each row, the loads lined up with blanks.
+    std::string t = "' Sobrecarga de nieve, kN/m2\r\n'\r\nALTITUD ZONAS_1_A_7\r\n";
+    for (int r = 1; r <= kFilasNieve; ++r) {
+        t += "' fila " + std::to_string(r) + "\r\n ";
+        for (int z = 1; z <= kZonasNieve; ++z)
+            t += "  " + std::to_string(r * 10 + z) + ".5";
+        t += "\r\n";
+    }
+    test::WriteBytes(programa / "Nieve", t);
+    const TablaNieve tabla = LeeTablaNieve(d, programa / "Nieve");
+    EXPECT_EQ(tabla[0][0], 11.5f);
+    EXPECT_EQ(tabla[1][6], 27.5f);
+    EXPECT_EQ(tabla[13][6], 147.5f);
+}
+
 // ---- Wind ----
 
 TEST(CoeficientesEsbeltez, PressureAndSuctionBySlenderness)
