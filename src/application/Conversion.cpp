@@ -6,6 +6,7 @@
 #include <optional>
 #include <random>
 
+#include "building/Acciones.h"
 #include "building/DatosGen.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
@@ -198,9 +199,13 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
     ConVentanaError(s.d, "CmdCalcular_Click", [&] { form->At("CmdCalcular").Click(); });
     const auto* element = dynamic_cast<const ElementForm*>(form.get());
     const std::string written = element ? element->UltimoGuardado() : std::string();
+    std::string note = "the actions were recalculated from the record's data and saved in the named format with "
+                       "their results file; every other field keeps its value";
+    if (const auto* acciones = dynamic_cast<const Acciones*>(form.get()); acciones && acciones->SinTablaViento())
+        note += "; no wind table was made: the building's width or length is not above 0, or no wind zone or "
+                "terrain class is chosen";
     form->Form_Unload();
-    s.log.entries.push_back({Status::Saved, path, dispatch.form, written,
-                             "the actions record was saved in the named format; the actions were not recalculated"});
+    s.log.entries.push_back({Status::Saved, path, dispatch.form, written, note});
     ++s.log.records;
 }
 
@@ -217,7 +222,7 @@ void DryRun(RunState& s, const std::vector<std::string>& names)
             s.log.entries.push_back({std::string(dispatch->code) == "CE" ? Status::GeneralData : Status::Saved,
                                      ConBarra(d.CarpetaObra) + name, dispatch->form, {},
                                      std::string(dispatch->code) == "CE" ? "would write DATOS.~CE as version 3.5"
-                                                                          : "would save the actions record"});
+                                                                          : "would recalculate and save the actions record"});
             continue;
         }
         done[code] = true;

@@ -298,7 +298,9 @@ void Control::RawSet(std::string_view prop, std::string_view value) { props_[std
 std::string Control::Property(std::string_view prop) const
 {
     if (EqNoCase(prop, "Text"))
-        return kind_ == Kind::TextBox ? text_ : (kind_ == Kind::ComboBox || kind_ == Kind::ListBox ? SelectedText() : caption_);
+        return kind_ == Kind::TextBox || kind_ == Kind::RichTextBox
+                   ? text_
+                   : (kind_ == Kind::ComboBox || kind_ == Kind::ListBox ? SelectedText() : caption_);
     if (EqNoCase(prop, "ListIndex"))
         return std::to_string(listIndex_);
     if (EqNoCase(prop, "ListCount"))
@@ -334,7 +336,8 @@ void Control::SetProperty(std::string_view prop, std::string_view value)
     std::string v(value);
     bool b = false;
     if (EqNoCase(prop, "Text")) {
-        if (kind_ == Kind::TextBox)
+        // A text box and a rich text box hold a text; the other kinds show it as their caption.
+        if (kind_ == Kind::TextBox || kind_ == Kind::RichTextBox)
             SetText(value);
         else
             caption_ = v;
@@ -433,6 +436,17 @@ Control& Form::Add(Kind kind, std::string name, int index)
     return *controls_.back();
 }
 
+Control& Form::AddCopyOfPrevious(std::string_view name, int index)
+{
+    const Control& previous = At(name, index - 1);
+    Control& c = Add(previous.kind(), previous.Name(), index);
+    c.designText = previous.Text();
+    c.SetText(previous.Text());
+    c.SetCaption(previous.Caption());
+    c.onKeyPress = previous.onKeyPress;
+    return c;
+}
+
 Control* Form::Find(std::string_view name, int index) const
 {
     for (const auto& c : controls_)
@@ -473,7 +487,7 @@ std::vector<Control*> Form::StoredControls() const
 {
     std::vector<Control*> out;
     for (const auto& c : controls_)
-        if (IsStored(c->kind()))
+        if (IsStored(c->kind()) && !c->Transitorio())
             out.push_back(c.get());
     return out;
 }

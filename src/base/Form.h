@@ -152,6 +152,11 @@ public:
     std::string Property(std::string_view prop) const;
     void SetProperty(std::string_view prop, std::string_view value);
 
+    // A control of a stored kind that a form makes at run time beyond the fields of its
+    // record (the rows of further floors): it holds a value on screen but no record keeps it.
+    bool Transitorio() const { return transitorio_; }
+    void SetTransitorio(bool t) { transitorio_ = t; }
+
     // Design-time text (text boxes) and free tag for form code.
     std::string designText;
     std::string tag;
@@ -194,6 +199,7 @@ private:
     bool visible_ = true;
     bool enabled_ = true;
     int left_ = 0;
+    bool transitorio_ = false;
     std::string group_;
     std::map<std::string, std::string, std::less<>> props_;
     std::shared_ptr<CompositeBehavior> behavior_;
@@ -213,6 +219,9 @@ public:
 
     // Adds a control at the end of the order of definition.
     Control& Add(Kind kind, std::string name, int index = -1);
+    // Makes member `index` of an array at run time, as a copy of the member before it: its kind,
+    // text (also as design text), caption and key handler. The member before it must exist.
+    Control& AddCopyOfPrevious(std::string_view name, int index);
     // Looks a control up by name (without regard to case, as the run time did) and index.
     Control* Find(std::string_view name, int index = -1) const;
     // As Find, but a missing control is a PropertyError naming it.
@@ -220,7 +229,8 @@ public:
     bool Has(std::string_view name, int index = -1) const { return Find(name, index) != nullptr; }
     // The members of a control array in the order of definition.
     std::vector<Control*> Members(std::string_view name) const;
-    // All controls, and the stored ones, in the order of definition.
+    // All controls, and those a record holds (stored kinds, less the transient ones), in the
+    // order of definition.
     std::vector<Control*> Controls() const;
     std::vector<Control*> StoredControls() const;
 

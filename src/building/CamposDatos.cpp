@@ -1,8 +1,10 @@
 // Stored fields of the actions form, the project annexes form and the forms whose result is a
 // free text, in the order of their records.
 
+#include "building/Acciones.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "works/Declaraciones.h"
 
 namespace vardena {
 namespace {
@@ -73,6 +75,49 @@ constexpr CampoDef kCamposFrmAccio[] = {
 };
 static_assert(CamposBienFormados(kCamposFrmAccio));
 
+// The actions window, in reading order: each action's frame of inputs with its check box and
+// map button, then its frame of results beside it; the panels of the masses per floor and of the
+// ground strata last. The rows of the masses go slab by slab, as many as the panel can hold.
+constexpr std::string_view kGrupoNieve[] = {"ChNieve", "cmbNieve", "txtNieve", "cmdAltitud"};
+constexpr std::string_view kGrupoCargaNieve[] = {"txtSobrNieve"};
+constexpr std::string_view kGrupoViento[] = {"ChViento", "cmbZonEol", "cmbEntorno", "txtAlt", "txtAnch", "TxtLong", "cmdEolica"};
+constexpr std::string_view kGrupoCargaViento[] = {"txtEsb",  "txtPres", "txtSuc",        "txtEsby",
+                                                  "txtPresy", "txtSucy", "LbAvisoViento", "RichTextBox2"};
+constexpr std::string_view kGrupoSismo[] = {"ChSismo", "TextAb",   "txtSismoK", "cmdAgG",   "cmbImportSismo",
+                                            "cmbEstruct", "cmbSueloSismo", "txtSismoC", "cmbCompart", "cmbDuct",
+                                            "txtBeta",  "CmdMasas", "cmdSueloSismo"};
+constexpr std::string_view kGrupoCargaSismica[] = {"txtRo", "txtS", "TextAc", "txtTf", "txtModo", "txtPant1", "RichTextBox3"};
+
+// The masses slab by slab (the roof and as many floors as the general data hold), then basement
+// by basement, then the panel's buttons.
+constexpr std::string_view kGrupoMasas[] = {
+    "TxtSupeP(0)", "TxtLongP(0)", "TxtSingP(0)", "TxtSupeP(1)", "TxtLongP(1)", "TxtSingP(1)", "TxtSupeP(2)",
+    "TxtLongP(2)", "TxtSingP(2)", "TxtSupeP(3)", "TxtLongP(3)", "TxtSingP(3)", "TxtSupeP(4)", "TxtLongP(4)",
+    "TxtSingP(4)", "TxtSupeP(5)", "TxtLongP(5)", "TxtSingP(5)", "TxtSupeP(6)", "TxtLongP(6)", "TxtSingP(6)",
+    "TxtSupeP(7)", "TxtLongP(7)", "TxtSingP(7)", "TxtSupeP(8)", "TxtLongP(8)", "TxtSingP(8)", "TxtSupeP(9)",
+    "TxtLongP(9)", "TxtSingP(9)", "TxtSupeP(10)", "TxtLongP(10)", "TxtSingP(10)", "TxtSupeP(11)", "TxtLongP(11)",
+    "TxtSingP(11)", "TxtSupeP(12)", "TxtLongP(12)", "TxtSingP(12)", "TxtSupeP(13)", "TxtLongP(13)", "TxtSingP(13)",
+    "TxtSupeP(14)", "TxtLongP(14)", "TxtSingP(14)", "TxtSupeP(15)", "TxtLongP(15)", "TxtSingP(15)", "TxtSupeP(16)",
+    "TxtLongP(16)", "TxtSingP(16)", "TxtSupeS(0)", "TxtLongS(0)", "TxtSingS(0)", "TxtSupeS(1)", "TxtLongS(1)",
+    "TxtSingS(1)", "TxtSupeS(2)", "TxtLongS(2)", "TxtSingS(2)", "TxtSupeS(3)", "TxtLongS(3)", "TxtSingS(3)",
+    "AsignaC", "UCOK",
+};
+// The strata, each thickness beside its soil type, then the panel's result and buttons.
+constexpr std::string_view kGrupoSuelo[] = {
+    "txtEstratos", "txtEspesor(0)", "cmbSuelo(0)", "txtEspesor(1)", "cmbSuelo(1)", "txtEspesor(2)", "cmbSuelo(2)",
+    "txtEspesor(3)", "cmbSuelo(3)", "txtEspesor(4)", "cmbSuelo(4)", "txtC", "UCOK2", "UCOK1",
+};
+static_assert(std::size(kGrupoMasas) == 3 * (kMaxFloors + 1) + 3 * kMaxBasements + 2,
+              "a row of the masses panel for every floor and basement the general data hold");
+
+// The inputs of each action on the left, its results with their tables on the right.
+constexpr GrupoDef kGruposAcciones[] = {
+    {"UCNieve", 0, kGrupoNieve, {}, 0},       {"UCSobrNieve", 0, kGrupoCargaNieve, {}, 1},
+    {"UCviento", 0, kGrupoViento, {}, 0},     {"UCCargaViento", 0, kGrupoCargaViento, {}, 1},
+    {"UCSismo", 0, kGrupoSismo, {}, 0},       {"UCCargaSismica", 0, kGrupoCargaSismica, {}, 1},
+    {"UCplantas", 0, kGrupoMasas, {}, 0},     {"UCSuelo", 0, kGrupoSuelo, {}, 1},
+};
+
 }  // namespace
 
 std::span<const TablaForm> TablasDatosYLibres()
@@ -111,6 +156,8 @@ std::span<const TablaForm> TablasDatosYLibres()
              {kLb, "lblXX", -1, "X-X"},
              {kLb, "lblYY", -1, "Y-Y"},
              {kRt, "RichTextBox2", -1, "Tabla de viento"},
+             // Says why a wind action asked for made no table.
+             {kLb, "LbAvisoViento", -1, ""},
              // Earthquake.
              {kFr, "UCSismo", -1, "ACELERACIÓN SÍSMICA"},
              {kLb, "lblAb", -1, "Aceleración ab/g "},
@@ -139,9 +186,9 @@ std::span<const TablaForm> TablasDatosYLibres()
              {kLb, "lblSing", -1, "Concargas singulares (kN)"},
              {kLb, "lblPlanta", 0, "Planta x"},
              {kLb, "LbCu", -1, "Cubierta"},
-             {kBt, "AsignaC", 0, ""},
-             {kBt, "AsignaC", 1, ""},
-             {kBt, "UCOK", -1, ""},
+             {kBt, "AsignaC", 0, "Asignar a todas las plantas"},
+             {kBt, "AsignaC", 1, "Asignar a todos los sótanos"},
+             {kBt, "UCOK", -1, "Aceptar"},
              // The ground strata panel.
              {kFr, "UCSuelo", -1, "Datos del terreno"},
              {kLb, "lblEstratos", -1, "Nº de estratos en los primeros 30 m "},
@@ -193,7 +240,9 @@ std::span<const TablaForm> TablasDatosYLibres()
              {kTx, "txtEspesor", -1, "Espesor estrato (m)"},
              {kCb, "cmbSuelo", -1, "Tipo de terreno del estrato"},
              {kTx, "txtC", -1, "Coeficiente C de los estratos"},
-         })},
+         }),
+         {},
+         kGruposAcciones, &Acciones::Crea},
         TablaDatosProy(),
         // The blank element's concrete list starts at HA-25, behind its "Idem gral." row.
         TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno,

@@ -245,12 +245,10 @@ void DatosGen::EnsureRows(int floors, int basements)
         for (int i = from; i <= to; ++i) {
             if (Find(name, i))
                 continue;
-            Control& c = Add(Kind::TextBox, name, i);
-            if (Control* above = Find(name, i - 1)) {
-                c.designText = above->Text();
-                c.SetText(above->Text());
-                c.onKeyPress = above->onKeyPress;
-            }
+            if (Find(name, i - 1))
+                AddCopyOfPrevious(name, i);
+            else
+                Add(Kind::TextBox, name, i);
         }
     };
     for (int k = 0; k < 4; ++k) {

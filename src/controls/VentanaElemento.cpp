@@ -231,15 +231,22 @@ QWidget* VentanaElemento::CreaDatos()
     auto* contenido = new QWidget();
     auto* columnas = new QHBoxLayout(contenido);
     columnas->setContentsMargins(0, 0, 0, 0);
-    constexpr int kColumnas = 3;
-    QVBoxLayout* columna[kColumnas];
-    int alto[kColumnas] = {};
+    // Three columns, or as many as the form's groups name: a group that names its column stands
+    // there, the others go to the least filled one.
+    const std::vector<GrupoCampos> grupos = AgrupaCampos(*form_);
+    int pedidas = 0;
+    for (const GrupoCampos& g : grupos)
+        pedidas = std::max(pedidas, g.columna + 1);
+    const size_t kColumnas = pedidas > 0 ? static_cast<size_t>(pedidas) : 3;
+    std::vector<QVBoxLayout*> columna(kColumnas);
+    std::vector<int> alto(kColumnas, 0);
     for (auto*& c : columna) {
         c = new QVBoxLayout();
         columnas->addLayout(c, 1);
     }
-    for (const GrupoCampos& g : AgrupaCampos(*form_)) {
-        const int k = static_cast<int>(std::min_element(alto, alto + kColumnas) - alto);
+    for (const GrupoCampos& g : grupos) {
+        const size_t k = g.columna >= 0 ? static_cast<size_t>(g.columna)
+                                        : static_cast<size_t>(std::min_element(alto.begin(), alto.end()) - alto.begin());
         columna[k]->addWidget(CreaGrupo(g));
         alto[k] += AltoDeGrupo(g);
     }
@@ -299,6 +306,12 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
             rejilla->addWidget(Estrecha(vista_->De(*c).widget()), fila, base, 1, 3);
         } else if (c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton || c->kind() == Kind::CommandButton) {
             rejilla->addWidget(WidgetDe(*c), fila, base, 1, 3);
+        } else if (c->kind() == Kind::RichTextBox && !c->Get("FontName").empty()) {
+            // A table the form makes: its title above it, the table the whole width of the group.
+            QLabel* titulo = Etiqueta(EtiquetaDe(*c));
+            siguen_.emplace_back(titulo, c);
+            rejilla->addWidget(titulo, fila, base, 1, 3);
+            rejilla->addWidget(WidgetDe(*c), ++fila, base, 1, 3);
         } else if (c->kind() == Kind::RichTextBox) {
             QWidget* w = WidgetDe(*c);
             w->setMaximumHeight(140);

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -13,6 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextBrowser>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -331,16 +333,36 @@ private:
     QGroupBox* marco_;
 };
 
-// The stored result: report RTF shown as HTML, anything else as plain text.
+// A colour of the run time: a number in blue-green-red order, decimal or "&H...&".
+QColor ColorVb(const std::string& texto)
+{
+    std::string t = texto;
+    int base = 10;
+    if (t.size() > 2 && (t[0] == '&') && (t[1] == 'H' || t[1] == 'h')) {
+        t = t.substr(2);
+        if (!t.empty() && t.back() == '&')
+            t.pop_back();
+        base = 16;
+    }
+    const unsigned long v = std::strtoul(t.c_str(), nullptr, base);
+    return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
+}
+
+// The stored result: report RTF shown as HTML, anything else as plain text. A rich text box
+// given a font of its own ("FontName") holds a table made by the form: it shows as it stands, in
+// a fixed-width font and the box's colour, each line whole, and as tall as its lines.
 class AdRtf : public Adaptador {
 public:
     AdRtf(Control& c, VistaForm& v) : Adaptador(c, v), texto_(new QTextBrowser()) {}
     QWidget* widget() const override { return texto_; }
     void Refresca() override
     {
+        const bool tabla = !control_.Get("FontName").empty();
         if (control_.Text() != mostrado_) {
             mostrado_ = control_.Text();
-            if (mostrado_.empty())
+            if (tabla)
+                MuestraTabla();
+            else if (mostrado_.empty())
                 texto_->setHtml("<p style='color:#808080'><i>Sin resultados guardados para este elemento.</i></p>");
             else
                 texto_->setHtml(Q(RtfAHtml(mostrado_)));
@@ -350,6 +372,27 @@ public:
     }
 
 private:
+    void MuestraTabla()
+    {
+        QFont fija = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        fija.setFamilies({Q(control_.Get("FontName")), fija.family()});
+        fija.setPointSizeF(8);
+        texto_->setFont(fija);
+        texto_->setLineWrapMode(QTextEdit::NoWrap);
+        const QFontMetrics m(fija);
+        texto_->setTabStopDistance(8 * m.horizontalAdvance(' '));
+        QPalette p = texto_->palette();
+        const std::string color = control_.Get("ForeColor");
+        p.setColor(QPalette::Text, color.empty() ? QColor(Qt::black) : ColorVb(color));
+        texto_->setPalette(p);
+        const QString t = Q(mostrado_).remove('\r');
+        texto_->setPlainText(t);
+        const int lineas = std::max(2, static_cast<int>(t.count('\n')) + 1);
+        const int alto = lineas * m.lineSpacing() + 2 * texto_->frameWidth() + 12;
+        texto_->setMinimumHeight(std::min(alto, 30 * m.lineSpacing()));
+        texto_->setMaximumHeight(alto);
+    }
+
     QTextBrowser* texto_;
     std::string mostrado_ = "-";
 };

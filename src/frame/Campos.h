@@ -173,11 +173,14 @@ struct MenuDef {
 // groups leave out fall to the groups its kinds and names give (frame/GruposVentana.h).
 // A label followed by a field names that field in the window. A group shows while its frame
 // and the frame that holds it (`dentro`, "" for none) are visible.
+// `columna` places the group in that column of the window (from 0), so that a frame stands
+// beside the frame it belongs with; -1 leaves it to the least filled column.
 struct GrupoDef {
     std::string_view marco;
     int mensaje = 0;
     std::span<const std::string_view> controles;
     std::string_view dentro = {};
+    int columna = -1;
 };
 
 // The groups every element window has besides its own: first its identity (title and level)

@@ -75,6 +75,7 @@ std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> 
     std::vector<GrupoCampos> out;
     for (const GrupoDef& def : defs) {
         GrupoCampos g;
+        g.columna = def.columna;
         const Control* marco = def.marco.empty() ? nullptr : form.Find(std::string(def.marco));
         g.titulo = marco ? marco->Caption() : form.decl().Msg(def.mensaje);
         for (const std::string_view nombre : {def.marco, def.dentro})

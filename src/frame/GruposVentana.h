@@ -21,6 +21,7 @@ struct GrupoCampos {
     std::vector<const Control*> marcos = {};
     // The label that names a field, where the form's definition puts one before it.
     std::map<const Control*, Control*> etiquetas = {};
+    int columna = -1;  // the window's column its definition asks for; -1 for any
 };
 // The data fields of an element form grouped for display: the groups its definition declares
 // first, then by kind and name: the element's identity, materials,

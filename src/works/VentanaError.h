@@ -2,6 +2,7 @@
 // The error window around a handler: a failure shows the window under the handler's label;
 // "Reintentar" runs the handler again, any other answer ends the program with the failure's text.
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 

@@ -11,6 +11,7 @@
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
 #include "works/Catalogo.h"
+#include "works/DatosFile.h"
 #include "base/Codepage.h"
 #include "base/FileIo.h"
 #include "application/Conversion.h"
@@ -88,6 +89,10 @@ Values NamedValues(const std::string& bytes)
     return v;
 }
 
+// The fields of the actions record that the conversion calculates again.
+constexpr const char* kResultadosAcciones[] = {"txtSobrNieve", "txtEsb", "txtPres", "txtSuc", "txtEsby", "txtPresy",
+                                               "txtSucy",      "txtS",   "TextAc",  "txtTf",  "txtModo"};
+
 class Conversion : public ::testing::Test {
 protected:
     void SetUp() override { fs::copy(VARDENA_EXAMPLES, dir.path(), fs::copy_options::recursive); }
@@ -122,6 +127,13 @@ TEST_F(Conversion, EveryServedRecordKeepsItsValues)
                 EXPECT_NE(after.at(name).find("Terreno: " + title), std::string::npos);
                 continue;
             }
+            if (results && code == "CK") {
+                // The actions are calculated again: their results file is the new report.
+                const std::string report = Cp1252ToUtf8(after.at(name));
+                EXPECT_EQ(report.rfind("{\\rtf1\\ansi\\ansicpg1252", 0), 0u);
+                EXPECT_NE(report.find(work), std::string::npos) << "headed by the work's name";
+                continue;
+            }
             if (!record || code == "CE" || FormDeCodigo(code).empty() || !hasResults) {
                 EXPECT_EQ(after.at(name), old) << "left byte for byte as it was";
                 continue;
@@ -144,6 +156,21 @@ TEST_F(Conversion, EveryServedRecordKeepsItsValues)
                     EXPECT_NE(nuevos[campo + ".Text"], viejos[campo + ".Text"]) << campo;
                     nuevos.erase(campo + ".Text");
                     viejos.erase(campo + ".Text");
+                }
+            }
+            if (code == "CK") {
+                EXPECT_NE(nuevos["txtTf.Text"], viejos["txtTf.Text"]) << "the period is calculated again";
+                // The results of the actions are those of its inputs now, as the form shows them
+                // when it reads the converted record with the work's general data; every other
+                // field is as it was.
+                std::string datos;
+                DatosFile(app.decl, "DATOS.~CE", "L", datos);
+                auto acciones = CargaForm(app.decl, FormDeCodigo(code));
+                for (const char* resultado : kResultadosAcciones) {
+                    const std::string clave = std::string(resultado) + ".Text";
+                    EXPECT_EQ(nuevos[clave], acciones->At(resultado).Text()) << clave;
+                    viejos.erase(clave);
+                    nuevos.erase(clave);
                 }
             }
             EXPECT_EQ(nuevos, viejos);

@@ -21,7 +21,7 @@ bool PapeleraEnCarpeta::APapelera(const std::string& path)
 }
 
 ProgramaDePrueba::ProgramaDePrueba(const std::string& obra)
-    : app(ui, std::make_unique<MemorySettings>()), programaPtr(std::make_unique<Programa>(app)), programa(*programaPtr)
+    : app(ui, std::make_unique<MemorySettings>(), RecursosDePrueba()), programaPtr(std::make_unique<Programa>(app)), programa(*programaPtr)
 {
     fs::copy(VARDENA_EXAMPLES, dir.path(), fs::copy_options::recursive);
     auto bin = std::make_unique<PapeleraEnCarpeta>(basura.path());

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -29,8 +30,41 @@ ScratchDir::~ScratchDir()
     std::filesystem::remove_all(path_, ec);
 }
 
+namespace {
+// The resources of the source tree.
+std::filesystem::path RecursosDelPrograma()
+{
+    return std::filesystem::path(VARDENA_EXAMPLES).parent_path() / "resources";
+}
+}  // namespace
+
+const std::string& CarpetaPrograma()
+{
+    static const ScratchDir carpeta;
+    static const std::string ruta = [] {
+        std::filesystem::copy_file(std::string(VARDENA_TEST_DATA) + "/Nieve", carpeta / "Nieve",
+                                   std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::create_directory_symlink(RecursosDelPrograma() / "mapas", carpeta / "mapas");
+        return carpeta.path();
+    }();
+    return ruta;
+}
+
+const std::string& RecursosDePrueba()
+{
+    static const ScratchDir carpeta;
+    static const std::string ruta = [] {
+        std::filesystem::create_directory_symlink(RecursosDelPrograma() / "lng", carpeta / "lng");
+        std::filesystem::create_directory_symlink(RecursosDelPrograma() / "mapas", carpeta / "mapas");
+        std::filesystem::copy_file(std::string(VARDENA_TEST_DATA) + "/Nieve", carpeta / "Nieve");
+        return carpeta.path();
+    }();
+    return ruta;
+}
+
 TestApp::TestApp() : decl(ui, platform)
 {
+    decl.DirPrograma = CarpetaPrograma();
     platform.settings = std::make_unique<MemorySettings>();
     decl.GeneralDataDefaults();
     LlenaCatalogo(decl);
@@ -81,7 +115,9 @@ Snapshot TakeSnapshot(const std::string& folder)
 int RunCli(const std::string& args, std::string* out, std::string* err)
 {
     ScratchDir tmp;
-    const std::string cmd = std::string("'") + VARDENA_CLI + "' " + args + " >'" + tmp.path() + "/out' 2>'" +
+    const char* propios = std::getenv("VARDENA_RESOURCES");
+    const std::string recursos = propios && *propios ? std::string() : "VARDENA_RESOURCES='" + RecursosDePrueba() + "' ";
+    const std::string cmd = recursos + "'" + VARDENA_CLI + "' " + args + " >'" + tmp.path() + "/out' 2>'" +
                             tmp.path() + "/err'";
     int status = std::system(cmd.c_str());
     if (out)

@@ -26,7 +26,16 @@ private:
     std::string path_;
 };
 
-// A program state for tests: RecordingUi, MemorySettings, the catalogue filled.
+// The program's folder of the tests: the snow table of the tests (tests/data/Nieve) and the maps
+// of the source, so that no test hangs on the table the program installs and no language pack
+// loads unless a test asks for one.
+const std::string& CarpetaPrograma();
+// The resources of the programs the tests run: the source's language packs and maps and the
+// snow table of the tests.
+const std::string& RecursosDePrueba();
+
+// A program state for tests: RecordingUi, MemorySettings, the catalogue filled, CarpetaPrograma()
+// as the program's folder.
 struct TestApp {
     TestApp();
     RecordingUi ui;
@@ -57,7 +66,9 @@ int PropertyErrorNumber(Fn fn)
 using Snapshot = std::map<std::string, std::string>;
 Snapshot TakeSnapshot(const std::string& folder);
 
-// Runs the command-line tool; returns its exit code and fills the outputs.
+// Runs the command-line tool; returns its exit code and fills the outputs. Unless the caller's
+// environment names the program's resources, the tool finds the language packs of the source
+// beside the snow table of the tests.
 int RunCli(const std::string& args, std::string* out = nullptr, std::string* err = nullptr);
 
 // The path of `program` on PATH, "" when it is not there.

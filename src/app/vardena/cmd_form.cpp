@@ -299,7 +299,7 @@ std::string JsonControl(const Control& c)
 {
     std::string out = "{\"name\": " + Json(c.Name()) + ", \"index\": " + std::to_string(c.Index()) +
                       ", \"kind\": " + Json(std::string(KindName(c.kind()))) +
-                      ", \"stored\": " + JsonBool(IsStored(c.kind())) + ", " + JsonValor(c);
+                      ", \"stored\": " + JsonBool(IsStored(c.kind()) && !c.Transitorio()) + ", " + JsonValor(c);
     if (!IsStored(c.kind()))
         out += ", \"visible\": " + JsonBool(c.Visible()) + ", \"enabled\": " + JsonBool(c.Enabled());
     return out + "}";
