@@ -612,6 +612,29 @@ TEST_F(FormAcciones, TheResultsFileListsTheActionsAndOpensAsAReport)
     EXPECT_EQ(texto.find("Sin avisos."), std::string::npos);
 }
 
+// LibreOffice reads the report with its accents, its tabs and its tables.
+TEST_F(FormAcciones, TheResultsFileOpensInLibreOffice)
+{
+    const std::string soffice = test::OnPath("soffice");
+    if (soffice.empty())
+        GTEST_SKIP() << "soffice is not on PATH";
+    d.Mensajes[1046] = "Acción de nieve";
+    d.Mensajes[1049] = "Sobrecarga de nieve:";
+    d.Mensajes[1510] = "Acción sísmica";
+    auto f = Edificio();
+    f->At("CmdCalcular").Click();
+    std::string texto = test::ConvierteConLibreOffice(soffice, obra.path(), obra / "Acciones.lCK",
+                                                      "txt:Text (encoded):UTF8", "Acciones.txt");
+    if (texto.rfind("\xEF\xBB\xBF", 0) == 0)
+        texto.erase(0, 3);
+    for (size_t k = texto.find("\xE2\x80\x86"); k != std::string::npos; k = texto.find("\xE2\x80\x86", k))
+        texto.erase(k, 3);
+    for (const char* linea : {"Obra de prueba", "Acción de nieve", "Acción del viento en dirección x-x'",
+                              "Acción sísmica", "Fuerzas sísmicas por planta y modo (kN)"})
+        EXPECT_NE(texto.find(linea), std::string::npos) << linea << "\n" << texto;
+    EXPECT_EQ(texto.find('\\'), std::string::npos) << "no mark-up leaks into the text";
+}
+
 // ---- Conversion ----
 
 TEST_F(FormAcciones, TheConversionRecalculatesTheActionsKeepsTheirDataAndSaysWhenNoWindTableWasMade)
