@@ -178,6 +178,12 @@ public:
     int KeyPress(int key);
     void KeyDown(int key);
     void RaiseChange();
+    // The focus leaves the control.
+    void LostFocus()
+    {
+        if (onLostFocus)
+            onLostFocus(*this);
+    }
     // A click on a picture at (x, y): MouseDown there, then Click.
     void ClickAt(int x, int y);
 

@@ -1,6 +1,7 @@
 // Stored fields of the concrete element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include "concrete/VigHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
 #include "frame/Listas.h"
@@ -212,7 +213,7 @@ std::span<const TablaForm> TablasHormigon()
          ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
          Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}),
-         MenuDef{"Hormigon", 1, "VigasH", "Vigas"}},
+         MenuDef{"Hormigon", 1, "VigasH", "Vigas"}, {}, &VigHorm::Crea},
         {"frmVigRegHorm", kCamposFrmVigRegHorm,
          {false, true, PasoComprobacion::OchoYSiete, false},
          "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano,

@@ -72,7 +72,7 @@ std::optional<Referencia> LeeReferencia(const std::string& text)
 }
 
 struct Paso {
-    enum Tipo { Pon, Pulsa, Pincha } tipo;  // --set, --press, --click
+    enum Tipo { Pon, Pulsa, Pincha, Deja } tipo;  // --set, --press, --click, --leave
     Referencia control;
     std::string valor;
     int x = 0, y = 0;  // where --click presses
@@ -148,12 +148,12 @@ bool LeeOpciones(const std::vector<std::string>& args, Opciones& o)
                 return false;
             p.control = *ref;
             o.pasos.push_back(p);
-        } else if (a == "--press" || a == "--get") {
+        } else if (a == "--press" || a == "--leave" || a == "--get") {
             auto ref = valor(v) ? LeeReferencia(v) : std::nullopt;
-            if (!ref || (a == "--press" && !ref->propiedad.empty()))
+            if (!ref || (a != "--get" && !ref->propiedad.empty()))
                 return false;
-            if (a == "--press")
-                o.pasos.push_back({Paso::Pulsa, *ref, {}});
+            if (a != "--get")
+                o.pasos.push_back({a == "--press" ? Paso::Pulsa : Paso::Deja, *ref, {}});
             else
                 o.lecturas.push_back(*ref);
         } else if (a.rfind("--", 0) == 0) {
@@ -353,6 +353,8 @@ int CmdForm(Aplicacion& app, const std::vector<std::string>& args)
             d.UltimoErrorDatos.clear();
             if (p.tipo == Paso::Pincha)
                 c->ClickAt(p.x, p.y);
+            else if (p.tipo == Paso::Deja)
+                c->LostFocus();
             else
                 c->Click();
             // A save the form refused, or general data that could not be written, has told why
@@ -446,7 +448,7 @@ int CmdForms(Aplicacion& app, const std::vector<std::string>& args)
 
 Registrar form("form",
                "form WORK FORM [--title T] [--set NAME[(I)][.PROP]=VALUE]... [--press CONTROL]... "
-               "[--click PICTURE=X,Y]... [--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
+               "[--click PICTURE=X,Y]... [--leave FIELD]... [--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
                "load element form FORM of WORK without a window, choose title T in List1, set fields, press "
                "buttons (CmdCalcular saves), click a picture at pixel X,Y, and print values or every control",
                CmdForm);

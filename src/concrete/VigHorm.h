@@ -1,0 +1,39 @@
+#pragma once
+// The reinforced-concrete beam (frmVigHorm): one span with its supports, cantilevers, loads by
+// stretches and reinforcement. Its own logic: the spans editor, the cover from the exposure
+// class, the level's supports and partitions, the least section depth and the transverse
+// bending frame. Its check is the no-op of every element.
+
+#include <memory>
+
+#include "frame/ElementForm.h"
+#include "frame/Tramos.h"
+
+namespace vardena {
+
+// The cover index (of CmbRecub) that an exposure class (row of CmbAmbGral) asks for.
+int RecubrimientoDeExposicion(int exposicion);
+
+class VigHorm : public ElementForm {
+public:
+    VigHorm(Declaraciones& d, const TablaForm& tabla);
+    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
+
+    const EditorTramos& Tramos() const { return tramos_; }
+
+protected:
+    void CargaPropia() override;
+
+private:
+    // Runs an event's routine unless the form is being filled; a run-time error in it goes to
+    // the error window under the event's name.
+    void Evento(std::string_view origen, const std::function<void()>& rutina);
+    void CmbAmbGral_Click();
+    void CmbPlanta_Click();
+    void TextDviga_LostFocus(int index);
+    void ChTrans_Click();
+
+    EditorTramos tramos_;
+};
+
+}  // namespace vardena
