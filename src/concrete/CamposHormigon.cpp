@@ -20,6 +20,22 @@ constexpr Valor kMinimosMensCorta[] = {{"TxCota", {{0, 6}}, 0}};
 constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {{0, 4}}, 0}, {"TxCotaH2", {{0, 4}}, 0}, {"TxCotaRampa", {{0, 0}}, 0}};
 
 
+// The concrete beam's window: its data, the beam drawn with its lengths and stretches beside
+// it, the loads of each stretch, the reinforcement and the transverse bending.
+constexpr std::string_view kVigHormDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta"};
+constexpr std::string_view kVigHormViga[] = {"PctViga",   "CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)",
+                                             "TxCota(0)", "TxCota(4)", "TextDviga", "TxtPil(0)", "TxtPil(1)",
+                                             "ChVigIzq",  "ChVigDer",  "ChPilIzq",  "ChPilDer"};
+constexpr std::string_view kVigHormCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)"};
+constexpr std::string_view kVigHormPuntuales[] = {"TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(4)"};
+constexpr std::string_view kVigHormArmado[] = {"UCArVig", "UCArCer", "ChArV", "TxLv"};
+constexpr std::string_view kVigHormTransversal[] = {"ChTrans", "TxCota(5)", "TxCota(6)"};
+constexpr GrupoDef kGruposVigHorm[] = {
+    {"FrViga", 0, kVigHormViga, {}, 0},          {"FrDatosViga", 0, kVigHormDatos, {}, 1},
+    {"FrCargasViga", 0, kVigHormCargas, {}, 1},  {"FrPuntualesViga", 0, kVigHormPuntuales, {}, 1},
+    {"FrArmadoViga", 0, kVigHormArmado, {}, 2},  {"UCframeT", 0, kVigHormTransversal, {}, 1},
+};
+
 // The stored fields of each form, in the order of its record.
 constexpr CampoDef kCamposFrmVigHorm[] = {
     {"CmbAmbGral", {}, kLista}, {"CmbAmbEspec", {}, kLista}, {"cmbPart", {}, kLista}, {"CmbHorm", {}, kLista},
@@ -212,8 +228,18 @@ std::span<const TablaForm> TablasHormigon()
          // The first match wins: a form's own list stands before the group it overrides.
          ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}),
-         MenuDef{"Hormigon", 1, "VigasH", "Vigas"}, {}, &VigHorm::Crea},
+         // The beam: its frames, and the picture that the form draws from its fields.
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}, {
+             {kFr, "FrDatosViga", -1, "Datos iniciales"},
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
+             {kFr, "FrArmadoViga", -1, "Armado"},
+             {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
+             {kPc, "PctViga", -1, ""},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+         }),
+         MenuDef{"Hormigon", 1, "VigasH", "Vigas"}, kGruposVigHorm, &VigHorm::Crea},
         {"frmVigRegHorm", kCamposFrmVigRegHorm,
          {false, true, PasoComprobacion::OchoYSiete, false},
          "Vigas Regulares de Hormigón Armado", "Viga reg. Horm. P 01-02", kRecubEstructura, kMinimosVano,

@@ -1,5 +1,6 @@
 #include "concrete/VigHorm.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/Texto.h"
@@ -104,6 +105,64 @@ void VigHorm::ChTrans_Click()
     const bool transversal = At("ChTrans").CheckValue() != 0;
     At("TxCota", 5).SetEnabled(transversal);
     At("TxCota", 6).SetEnabled(transversal);
+}
+
+std::optional<Croquis> VigHorm::CroquisDe(const Control& picture) const
+{
+    if (picture.Name() != "PctViga")
+        return std::nullopt;
+    auto valor = [&](const char* campo, int i) { return ValComaCopy(At(campo, i).Text()); };
+    auto visible = [&](const char* campo, int i) { return At(campo, i).Visible(); };
+    // Twips: the span between x0 and x1, cantilevers beyond, the beam's axis at yViga.
+    constexpr int kAncho = 6400, kAlto = 2900, x0 = 900, x1 = 5500, yViga = 1300, canto = 160;
+    constexpr int kAltoCarga = 700, kPilar = 500;
+    Croquis c;
+    c.ancho = kAncho;
+    c.alto = kAlto;
+    const bool vIzq = At("ChVigIzq").CheckValue() != 0, vDer = At("ChVigDer").CheckValue() != 0;
+    const int izq = vIzq ? 250 : x0, der = vDer ? kAncho - 250 : x1;
+    c.Rectangulo(PapelCroquis::Hormigon, izq, yViga - canto / 2, der, yViga + canto / 2);
+    // The supports: a column below, or a bearing where the column's depth is 0.
+    for (int lado = 0; lado < 2; ++lado) {
+        const int x = lado == 0 ? x0 : x1;
+        const bool pilar = At(lado == 0 ? "ChPilIzq" : "ChPilDer").CheckValue() != 0 && valor("TxtPil", lado) > 0;
+        if (pilar)
+            c.Rectangulo(PapelCroquis::Hormigon, x - 90, yViga + canto / 2, x + 90, yViga + canto / 2 + kPilar);
+        else
+            c.trazos.push_back({FiguraCroquis::Poligono, PapelCroquis::Hormigon,
+                                {{x, yViga + canto / 2}, {x - 120, yViga + canto / 2 + 200}, {x + 120, yViga + canto / 2 + 200}}});
+    }
+    // The stretches with their distributed loads, drawn to the greatest of them.
+    const int n = tramos_.Numero();
+    const auto& dibujo = tramos_.Dibujo();
+    const auto alturas = AlturasCargas(valor("TxtQ", 1), valor("TxtQ", 2), valor("TxtQ", 3));
+    const int yCota = yViga + canto / 2 + kPilar + 250;
+    for (int k = 0; k < n; ++k) {
+        const auto& t = dibujo[static_cast<size_t>(k)];
+        const int a = x0 + static_cast<int>(t.inicio * (x1 - x0));
+        const int b = x0 + static_cast<int>((t.inicio + t.ancho) * (x1 - x0));
+        const int alto = std::max(40, static_cast<int>(alturas[static_cast<size_t>(k)] * kAltoCarga));
+        c.Rectangulo(PapelCroquis::Carga, a, yViga - canto / 2 - alto, b, yViga - canto / 2);
+        c.Texto(PapelCroquis::Carga, {(a + b) / 2, yViga - canto / 2 - alto - 120},
+                "q" + std::to_string(k + 1) + "=" + At("TxtQ", k + 1).Text());
+        const double longitud = k == 0 ? (n == 1 ? tramos_.Actuales().L : tramos_.Actuales().a1)
+                                       : k == 1 ? (n == 2 ? tramos_.Actuales().L - tramos_.Actuales().a1 : tramos_.Actuales().a2)
+                                                : tramos_.Actuales().r;
+        if (n > 1)
+            c.Cota({a, yCota}, {b, yCota}, Formato00(longitud));
+    }
+    c.Cota({x0, yCota + (n > 1 ? 450 : 0)}, {x1, yCota + (n > 1 ? 450 : 0)}, "L=" + Formato00(valor("TxCota", 1)));
+    // The point load P at mid-span, P1 and P2 at the cantilevers' ends.
+    c.Flecha(PapelCroquis::Carga, {(x0 + x1) / 2, 80}, {(x0 + x1) / 2, yViga - canto / 2});
+    for (int lado = 0; lado < 2; ++lado) {
+        if (!(lado == 0 ? vIzq : vDer))
+            continue;
+        const int x = lado == 0 ? izq + 60 : der - 60, indice = lado == 0 ? 0 : 4;
+        c.Flecha(PapelCroquis::Carga, {x, yViga - canto / 2 - 500}, {x, yViga - canto / 2});
+        if (visible("TxCota", indice))
+            c.Cota({lado == 0 ? izq : x1, yCota}, {lado == 0 ? x0 : der, yCota}, Formato00(valor("TxCota", indice)));
+    }
+    return c;
 }
 
 }  // namespace vardena

@@ -21,6 +21,10 @@ public:
 
     const EditorTramos& Tramos() const { return tramos_; }
 
+    // The beam picture PctViga: the beam with its supports and cantilevers, the load stretches
+    // with their loads drawn to scale, the point loads and the lengths.
+    std::optional<Croquis> CroquisDe(const Control& picture) const override;
+
 protected:
     void CargaPropia() override;
 

@@ -30,10 +30,21 @@ public:
     DibujoCroquis(const ElementForm& form, const Control& picture) : form_(form), picture_(picture)
     {
         setMinimumSize(140, 105);
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        QSizePolicy politica(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        politica.setHeightForWidth(true);
+        setSizePolicy(politica);
         setObjectName(Q(picture.Label()));
     }
     QSize sizeHint() const override { return {180, 125}; }
+    // A sketch as wide as its group keeps the proportions of its drawing.
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int ancho) const override
+    {
+        const std::optional<Croquis> croquis = form_.CroquisDe(picture_);
+        if (!croquis || croquis->ancho <= 0)
+            return 125;
+        return std::clamp(ancho * croquis->alto / croquis->ancho, 105, 320);
+    }
 
 protected:
     void paintEvent(QPaintEvent*) override
@@ -348,6 +359,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
                     if (Control* u = form_->Find(par, c->Index()))
                         h->addWidget(vista_->De(*u).widget());
                 rejilla->addWidget(unidad, fila, base + 2);
+                siguen_.emplace_back(unidad, c);
             }
         }
         if (dosPorFila && col == 0) {
