@@ -12,6 +12,7 @@
 #include "frame/Formularios.h"
 #include "frame/GruposVentana.h"
 #include "support/TestSupport.h"
+#include "works/Catalogo.h"
 #include "works/LngPack.h"
 
 namespace vardena {
@@ -244,6 +245,39 @@ TEST_F(ConcreteByAge, HardeningIsTheWordNormal)
     g->At("CmbEdad").SetListIndex(0);
     EXPECT_FLOAT_EQ(g->BetaFck(), 0.55f);
     EXPECT_FLOAT_EQ(app.decl.FactorEdadE, 0.74f);
+}
+
+// In every shipped language the lists come from its messages and its word for normal
+// hardening is "normal", so that both rows of CmbEndur keep their factors.
+TEST_F(ConcreteByAge, EachLanguageNamesItsListsAndKeepsTheHardeningRows)
+{
+    struct Caso {
+        const char* idioma;
+        const char* caption;
+        const char* cuarcita;
+        const char* rapido;
+    };
+    const std::vector<Caso> casos = {
+        {"Español", "Características mecánicas del hormigón", "Cuarcita", "rápido"},
+        {"English", "Properties of concrete by age", "Quartzite", "rapid"},
+        {"Català", "Característiques mecàniques del formigó", "Quarsita", "ràpid"},
+    };
+    app.decl.DirPrograma = ResourceDir();
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.idioma);
+        SaveSetting(app.decl, "Preferencias", "Lenguaje", c.idioma);
+        CargaIdioma(app.decl);
+        auto f = Carga();
+        EXPECT_EQ(f->Caption(), c.caption);
+        EXPECT_EQ(f->At("CmbArido").List(0), c.cuarcita);
+        EXPECT_EQ(f->At("CmbEndur").Items(), (std::vector<std::string>{"normal", c.rapido}));
+        f->At("CmbEdad").SetListIndex(0);
+        EXPECT_FLOAT_EQ(f->BetaFck(), 0.4f);
+        f->At("CmbEndur").SetListIndex(1);
+        EXPECT_FLOAT_EQ(f->BetaFck(), 0.55f);
+        EsperaValores(*f, {"13.75", "33", "18.15", "23735", "20175", "1.2", "1.72", "2.23"});
+    }
+    EXPECT_TRUE(app.ui.errors.empty());
 }
 
 // The beams' modulus: 850000 (fck / 100 + 8)^(1/3) Fa Fe with fck of the general data in t/m2;
