@@ -404,6 +404,10 @@ void DatosGen::pasaPanMat()
 void DatosGen::Form_Load()
 {
     TraduceForm(*this);
+    // The modulus of the beams takes no scale factors until the calculator of concrete
+    // properties by age sets them again.
+    decl().FactorArido = 1;
+    decl().FactorEdadE = 1;
     for (Control* c : Controls())
         if (c->kind() == Kind::ComboBox && c->ListCount() > 0)
             c->SetListIndex(0);

@@ -99,6 +99,17 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         escritas.push_back(Fotografia(d.get(), carpeta, std::to_string(n++) + "-" + nombre));
         d->hide();
     }
+    // The calculator of concrete properties by age, opened over the main window as its menu
+    // command opens it, at 7 days of rapid hardening so that every value differs from fck.
+    if (VentanaForm* v = programa.AbreEncima("frmHormigon")) {
+        v->vista().Ejecuta([&f = v->form()] {
+            f.At("CmbEdad").SetListIndex(1);
+            f.At("CmbEndur").SetListIndex(1);
+        });
+        escritas.push_back(Fotografia(v, carpeta, std::to_string(n++) + "-frmHormigon"));
+        v->alCerrar = nullptr;
+        v->close();
+    }
     DatosError e;
     e.numero = 75;
     e.descripcion = "Error de acceso a la ruta o al archivo";

@@ -294,6 +294,31 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     // The band of the sketches being placed side by side.
     QHBoxLayout* croquis = nullptr;
     int fila = 0, col = 0;
+    if (g.tabla) {
+        // A row a value: what it is, its symbol and unit, the value.
+        for (Control* c : g.miembros) {
+            if (auto it = g.etiquetas.find(c); it != g.etiquetas.end())
+                rejilla->addWidget(Estrecha(vista_->De(*it->second).widget()), fila, 0);
+            if (auto it = g.junto.find(c); it != g.junto.end()) {
+                auto* simbolos = new QWidget();
+                auto* h = new QHBoxLayout(simbolos);
+                h->setContentsMargins(0, 0, 0, 0);
+                for (Control* s : it->second)
+                    h->addWidget(vista_->De(*s).widget());
+                rejilla->addWidget(simbolos, fila, 1);
+            }
+            QWidget* w = WidgetDe(*c);
+            if (auto* linea = qobject_cast<QLineEdit*>(w))
+                linea->setMaximumWidth(90);
+            if (auto* lista = qobject_cast<QComboBox*>(w))
+                lista->setMaximumWidth(230);
+            if (c->kind() == Kind::Label)
+                w->setStyleSheet("font-weight: bold;");
+            rejilla->addWidget(w, fila++, 2);
+        }
+        rejilla->setColumnStretch(0, 1);
+        return grupo;
+    }
     for (Control* c : g.miembros) {
         if (c->kind() == Kind::PictureBox) {
             if (!elemento || !elemento->CroquisDe(*c))
@@ -410,6 +435,9 @@ QWidget* VentanaElemento::CreaPanel()
     }
     if (Control* vers = form_->Find("Lbvers"))
         v->addWidget(vista_->De(*vers).widget());
+    // Without a record list the buttons stand at the top.
+    if (!form_->Find("List1"))
+        v->addStretch();
     return panel;
 }
 

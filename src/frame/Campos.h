@@ -175,12 +175,17 @@ struct MenuDef {
 // and the frame that holds it (`dentro`, "" for none) are visible.
 // `columna` places the group in that column of the window (from 0), so that a frame stands
 // beside the frame it belongs with; -1 leaves it to the least filled column.
+// A `tabla` group stands in rows, each a run of lone labels and the value they name: the first
+// label says what the value is, the others (its symbol, its unit) stand beside it. The value is
+// a field, or, in a group without fields, the third label of the row (a label that shows a
+// calculated value).
 struct GrupoDef {
     std::string_view marco;
     int mensaje = 0;
     std::span<const std::string_view> controles;
     std::string_view dentro = {};
     int columna = -1;
+    bool tabla = false;
 };
 
 // The groups every element window has besides its own: first its identity (title and level)

@@ -4,6 +4,7 @@
 
 #include "building/DatosGen.h"
 #include "building/Mapas.h"
+#include "concrete/Hormigon.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
 #include "works/Catalogo.h"
@@ -18,6 +19,7 @@ using Fabrica = std::function<std::unique_ptr<Form>(Declaraciones&)>;
 struct FormPropio {
     std::string_view nombre;
     Fabrica crea;
+    std::span<const GrupoDef> grupos = {};  // its window's groups
 };
 
 // Forms with a class of their own and no element definition: the general data and the
@@ -30,6 +32,9 @@ const std::vector<FormPropio>& FormsPropios()
         {"frmECGn", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmECGn>(d); }},
         {"frmECV", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmECV>(d); }},
         {"frmNCSE02", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmNCSE02>(d); }},
+        // The calculator of concrete properties by age: no record, opened over the main window.
+        {"frmHormigon", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmHormigon>(d); },
+         GruposHormigon()},
     };
     return propios;
 }
@@ -78,6 +83,14 @@ std::unique_ptr<Form> CreaForm(Declaraciones& d, std::string_view name)
     if (const TablaForm* tabla = TablaCampos(name))
         return tabla->crea ? tabla->crea(d, *tabla) : std::make_unique<ElementForm>(d, *tabla);
     return nullptr;
+}
+
+std::span<const GrupoDef> GruposDeDialogo(std::string_view name)
+{
+    for (const auto& p : FormsPropios())
+        if (p.nombre == name)
+            return p.grupos;
+    return {};
 }
 
 std::unique_ptr<Form> CargaForm(Declaraciones& d, std::string_view name)

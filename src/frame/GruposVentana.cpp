@@ -10,6 +10,7 @@
 #include "frame/ControlesVisibles.h"
 #include "frame/DatosForms.h"
 #include "frame/ElementForm.h"
+#include "frame/Formularios.h"
 #include "works/Declaraciones.h"
 
 namespace vardena {
@@ -69,6 +70,37 @@ bool EsCampo(const Control* c)
            IsComposite(c->kind());
 }
 
+bool EsEtiquetaSola(const std::vector<Control*>& entrada)
+{
+    return entrada.size() == 1 && entrada[0]->kind() == Kind::Label;
+}
+
+// The rows of a table group: lone labels up to the value they name, a field, or in a group
+// without fields the third label of the row. Labels left at the end stand as notes.
+void Filas(GrupoCampos& g, const std::vector<std::vector<Control*>>& entradas)
+{
+    g.tabla = true;
+    const bool conCampos = std::any_of(entradas.begin(), entradas.end(), [](const std::vector<Control*>& e) {
+        return !e.empty() && EsCampo(e[0]);
+    });
+    std::vector<Control*> rotulos;
+    for (const std::vector<Control*>& e : entradas) {
+        if (e.empty())
+            continue;
+        if (EsEtiquetaSola(e) && (conCampos || rotulos.size() < 2)) {
+            rotulos.push_back(e[0]);
+            continue;
+        }
+        g.miembros.insert(g.miembros.end(), e.begin(), e.end());
+        if (!rotulos.empty()) {
+            g.etiquetas[e[0]] = rotulos[0];
+            g.junto[e[0]].assign(rotulos.begin() + 1, rotulos.end());
+        }
+        rotulos.clear();
+    }
+    g.miembros.insert(g.miembros.end(), rotulos.begin(), rotulos.end());
+}
+
 // The declared groups with the controls they take.
 std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> defs, std::set<const Control*>& tomados)
 {
@@ -86,6 +118,12 @@ std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> 
             entradas.push_back(Nombrados(form, nombre, tomados));
             for (Control* c : entradas.back())
                 tomados.insert(c);
+        }
+        if (def.tabla) {
+            Filas(g, entradas);
+            if (!g.miembros.empty())
+                out.push_back(std::move(g));
+            continue;
         }
         for (size_t i = 0; i < entradas.size(); ++i) {
             // A lone label before a field names it.
@@ -141,7 +179,7 @@ std::vector<GrupoCampos> AgrupaCampos(const Form& form)
     const Declaraciones& d = form.decl();
     std::set<const Control*> tomados;
     const TablaForm* tabla = TablaCampos(form.Name());
-    std::vector<GrupoCampos> out = Declarados(form, tabla ? tabla->grupos : std::span<const GrupoDef>(), tomados);
+    std::vector<GrupoCampos> out = Declarados(form, tabla ? tabla->grupos : GruposDeDialogo(form.Name()), tomados);
     for (GrupoCampos& g : Declarados(form, kGruposAlPrincipio, tomados))
         out.push_back(std::move(g));
     const std::vector<GrupoCampos> finales = Declarados(form, kGruposAlFinal, tomados);

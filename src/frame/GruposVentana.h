@@ -22,6 +22,10 @@ struct GrupoCampos {
     // The label that names a field, where the form's definition puts one before it.
     std::map<const Control*, Control*> etiquetas = {};
     int columna = -1;  // the window's column its definition asks for; -1 for any
+    // A group in rows (GrupoDef::tabla): each member is a row's value, named by its label in
+    // `etiquetas`, with the labels that stand beside it (its symbol, its unit) here.
+    bool tabla = false;
+    std::map<const Control*, std::vector<Control*>> junto = {};
 };
 // The data fields of an element form grouped for display: the groups its definition declares
 // first, then by kind and name: the element's identity, materials,

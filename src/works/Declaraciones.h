@@ -130,6 +130,14 @@ struct Declaraciones {
     float AccS = 0, AccTA = 0, AccTB = 0, AccTF = 0;
     float AccOmega = 0, AccBeta = 0, AccAc = 0;
 
+    // What the calculator of concrete properties by age leaves behind it: the aggregate factor
+    // and the age factor that scale the concrete modulus of the beams (1 until the calculator
+    // sets them; the general data's load puts them back to 1), and the last secant modulus it
+    // gave, N/mm2.
+    float FactorArido = 1;
+    float FactorEdadE = 1;
+    float ModuloHormigon = 0;
+
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();
 
