@@ -278,6 +278,10 @@ void PilHorm::CalCargas()
     if (d.Cargando != kFalse)
         return;
     const int nivel = At("CmbPlanta").ListIndex();
+    // A record of a level the work no longer has leaves the list without a row: there are no
+    // loads to take, and the figures read stay as they are.
+    if (nivel < 0)
+        return;
 
     DatosCargasPilar x;
     if (At("ChPilSup").CheckValue() == 0) {
@@ -332,6 +336,13 @@ void PilHorm::CalCargas()
     At("TxtQ", 1).SetText(Formato00(r.my * factor(1)));
     if (Control* lb = Find("LbP1", 2))
         lb->SetCaption(At("TxtQ", 0).Text());
+}
+
+std::string PilHorm::ResumenCalculo() const
+{
+    return "the column's loads were estimated from the general data: N = " + At("TxtQ", 2).Text() +
+           ", Mx = " + At("TxtQ", 0).Text() + ", My = " + At("TxtQ", 1).Text() +
+           "; TxtQ(0), TxtQ(1) and TxtQ(2) hold the new figures, every other field keeps the value read";
 }
 
 // ---- The plan ----

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "frame/ElementForm.h"
@@ -58,6 +59,8 @@ public:
     std::optional<PosicionPilar> Posicion() const;
     // The figures of the last estimate, in internal units.
     const CargasPilar& Cargas() const { return cargas_; }
+
+    std::string ResumenCalculo() const override;
 
     // The plan of the column at its position (Ptpilar(i)).
     std::optional<Croquis> CroquisDe(const Control& picture) const override;

@@ -277,6 +277,17 @@ TEST_F(Column, TypedLoadsAreRecalculatedAndNoEventRunsWhileLoading)
     app.decl.Cargando = kFalse;
 }
 
+TEST_F(Column, NoLevelChosenLeavesTheFiguresAsRead)
+{
+    auto f = Load();
+    Aplica(*f, Casos()[0]);
+    f->At("CmbPlanta").SetListIndex(-1);
+    Pon(*f, "LePil", 4, "8");
+    f->At("CmdCalcular").Click();
+    EXPECT_EQ(Esfuerzos(*f), Casos()[0].esperado);
+    EXPECT_TRUE(app.ui.errors.empty());
+}
+
 TEST_F(Column, NoPositionChosenShowsTheStopBox)
 {
     auto f = Load();
