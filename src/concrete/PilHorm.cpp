@@ -359,13 +359,13 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
         return static_cast<int>(std::clamp(v, 0.5, 8.0) * 400);
     };
     const int a1 = largo(0), a2 = largo(1), a3 = largo(2), a4 = largo(3);
-    constexpr int kMargen = 500;
+    // Room around the plan for the dimension lines and their names.
+    constexpr int kMargen = 700;
     constexpr int kLado = 160;
     Croquis c;
     c.ancho = a1 + a2 + 2 * kMargen;
     c.alto = a3 + a4 + 2 * kMargen;
     const PuntoCroquis o{kMargen + a1, kMargen + a3};
-    auto texto = [&](int i) { return "a" + std::to_string(i + 1) + " = " + At("LePil", primera + i).Text(); };
     // The tributary area: half of each span; a cantilever to the façade counts whole.
     const bool bordeX = pos != PosicionPilar::Centro;  // a1 runs to the façade
     const bool bordeY = pos == PosicionPilar::Esquina; // a4 runs to the façade
@@ -381,7 +381,9 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
     if (bordeY)
         c.Linea(PapelCroquis::Superficie, {o.x - a1, o.y + a4}, {o.x + a2, o.y + a4});
     // The column and its neighbours at the ends of the spans.
-    auto pilar = [&](PuntoCroquis p) { c.Rectangulo(PapelCroquis::Hormigon, p.x - kLado / 2, p.y - kLado / 2, p.x + kLado / 2, p.y + kLado / 2); };
+    auto pilar = [&](PuntoCroquis p) {
+        c.Rectangulo(PapelCroquis::Hormigon, p.x - kLado / 2, p.y - kLado / 2, p.x + kLado / 2, p.y + kLado / 2);
+    };
     pilar(o);
     pilar({o.x + a2, o.y});
     pilar({o.x, o.y - a3});
@@ -389,11 +391,12 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
         pilar({o.x - a1, o.y});
     if (!bordeY)
         pilar({o.x, o.y + a4});
-    // The four distances.
-    c.Cota({o.x - a1, kMargen / 2}, {o.x, kMargen / 2}, texto(0));
-    c.Cota({o.x, kMargen / 2}, {o.x + a2, kMargen / 2}, texto(1));
-    c.Cota({c.ancho - kMargen / 2, o.y - a3}, {c.ancho - kMargen / 2, o.y}, texto(2));
-    c.Cota({c.ancho - kMargen / 2, o.y}, {c.ancho - kMargen / 2, o.y + a4}, texto(3));
+    // The four distances under the names of their fields; the fields beside hold the values.
+    const int arriba = kMargen - 150, derecha = c.ancho - kMargen + 150;
+    c.Cota({o.x - a1, arriba}, {o.x, arriba}, "a1");
+    c.Cota({o.x, arriba}, {o.x + a2, arriba}, "a2");
+    c.Cota({derecha, o.y - a3}, {derecha, o.y}, "a3");
+    c.Cota({derecha, o.y}, {derecha, o.y + a4}, "a4");
     return c;
 }
 

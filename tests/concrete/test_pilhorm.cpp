@@ -356,23 +356,34 @@ TEST_F(Column, ShapeAndCrossTiesFollowTheirFields)
 TEST_F(Column, PlanSketchShowsThePositionAndItsDistances)
 {
     auto f = Load();
+    // Drawn at 400 twips a metre, held within 0.5 and 8 m.
+    Luces(*f, PosicionPilar::Esquina, {"0.1", "4", "20", "2"});
     Luces(*f, PosicionPilar::Borde, {"1", "5", "4", "6"});
+    Luces(*f, PosicionPilar::Centro, {"4", "5", "3", "6"});
+    const std::vector<std::vector<int>> largos = {{200, 1600, 3200, 800}, {400, 2000, 1600, 2400}, {1600, 2000, 1200, 2400}};
     for (int p = 0; p < 3; ++p) {
         const std::optional<Croquis> c = f->CroquisDe(f->At("Ptpilar", p));
         ASSERT_TRUE(c) << p;
-        std::vector<std::string> cotas;
-        int facadas = 0;
+        std::vector<std::string> nombres;
+        std::vector<int> medidas;
+        int facadas = 0, pilares = 0;
         for (const TrazoCroquis& t : c->trazos) {
-            if (t.figura == FiguraCroquis::Cota)
-                cotas.push_back(t.texto);
+            if (t.figura == FiguraCroquis::Cota) {
+                nombres.push_back(t.texto);
+                medidas.push_back(std::abs(t.puntos[1].x - t.puntos[0].x) + std::abs(t.puntos[1].y - t.puntos[0].y));
+            }
             facadas += t.papel == PapelCroquis::Superficie;
+            pilares += t.papel == PapelCroquis::Hormigon;
+            for (const PuntoCroquis& q : t.puntos) {
+                EXPECT_TRUE(q.x >= 0 && q.x <= c->ancho && q.y >= 0 && q.y <= c->alto) << "inside the picture";
+            }
         }
-        const int primera = PrimeraLuz(static_cast<PosicionPilar>(p));
-        ASSERT_EQ(cotas.size(), 4u);
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(cotas[static_cast<size_t>(i)], "a" + std::to_string(i + 1) + " = " + f->At("LePil", primera + i).Text());
-        // A corner has two façades, an edge one, an inner column none.
-        EXPECT_EQ(facadas, p == 0 ? 2 : p == 1 ? 1 : 0) << p;
+        EXPECT_EQ(nombres, (std::vector<std::string>{"a1", "a2", "a3", "a4"}));
+        EXPECT_EQ(medidas, largos[static_cast<size_t>(p)]) << p;
+        // A corner has two façades and three columns, an edge one façade and four, an inner
+        // column none and five.
+        EXPECT_EQ(facadas, 2 - p) << p;
+        EXPECT_EQ(pilares, 3 + p) << p;
     }
     EXPECT_FALSE(f->CroquisDe(f->At("PctCuadr")));
 }
