@@ -1,9 +1,11 @@
 // Stored fields of the concrete element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include "concrete/PilHorm.h"
 #include "concrete/VigHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "frame/GruposVentana.h"
 #include "frame/Listas.h"
 
 namespace vardena {
@@ -87,6 +89,35 @@ constexpr CampoDef kCamposFrmPilHorm[] = {
     {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla},
 };
 static_assert(CamposBienFormados(kCamposFrmPilHorm));
+
+// The concrete column's window: its level, its position in plan with the plan of that position,
+// the four distances of the chosen position (each position's in a frame of its own, which only
+// that position shows), the section and its bars, the stirrups, the loads and the enclosure,
+// which only a column on the façade carries. Materials under the level, results last.
+constexpr int kMsgGrupoMateriales = 1501;
+constexpr std::string_view kPilarNivel[] = {"txtTitulo", "CmbPlanta", "ChPilSup", "LePil(12)"};
+constexpr std::string_view kPilarPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
+constexpr std::string_view kPilarLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
+constexpr std::string_view kPilarLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
+constexpr std::string_view kPilarLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
+constexpr std::string_view kPilarSeccion[] = {"CmbForma", "txtTramo", "UCArmPilar", "ChPil", "cmbesviada", "Lbnota"};
+constexpr std::string_view kPilarCercos[] = {"UCCercos", "UCNumDiamSep1"};
+constexpr std::string_view kPilarEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kPilarCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
+constexpr std::string_view kPilarResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3", "txtW"};
+constexpr GrupoDef kGruposPilHorm[] = {
+    {"", kMsgGrupoElemento, kPilarNivel, "", 0},
+    {"", kMsgGrupoMateriales, kCamposMateriales, "", 0},
+    {"UCframeEsf", 0, kPilarEsfuerzos, "", 0},
+    {"LbCer", 0, kPilarCerramiento, "", 0},
+    {"UCframePos", 0, kPilarPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilarLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilarLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilarLucesCentro, "", 1},
+    {"UCframeDim", 0, kPilarSeccion, "", 2},
+    {"UCframeCercos", 0, kPilarCercos, "", 2},
+    {"UCframeRes", 0, kPilarResultados, "", 2},
+};
 
 constexpr CampoDef kCamposFrmForjUnid[] = {
     {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
@@ -264,8 +295,33 @@ std::span<const TablaForm> TablasHormigon()
          "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar,
          ListasPilar() + ListasHormigon(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPilarHormigon}),
-         MenuDef{"Hormigon", 3, "PilaresH", "Pilares"}},
+         // The frames of the designed window, its plan pictures, section pictures and notes.
+         Visibles({EtiquetasPilar, EtiquetasPilarHormigon}, {
+             {kFr, "UCframePos", -1, "Situación pilar en planta"},
+             {kPc, "Ptpilar", 0, ""},
+             {kPc, "Ptpilar", 1, ""},
+             {kPc, "Ptpilar", 2, ""},
+             {kFr, "UCframeLucesEsq", -1, "Luces en metros"},
+             {kFr, "UCframeLucesBor", -1, "Luces en metros"},
+             {kFr, "UCframeLucesCen", -1, "Luces en metros"},
+             {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
+             {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
+             {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
+             {kFr, "UCframeDim", -1, "Dimensiones en cm.   Armadura lateral por cara."},
+             {kCb, "CmbForma", -1, "Forma"},
+             {kPc, "PctCuadr", -1, ""},
+             {kPc, "PctCir", -1, ""},
+             {kPc, "Pctllave", 3, ""},
+             {kPc, "Pctllave", 4, ""},
+             {kLb, "Lbnota", -1, "Se considera la armadura superior e inferior como la dispuesta para resistir el máximo momento."},
+             {kFr, "UCframeCercos", -1, "Cercos pilar"},
+             {kFr, "UCframeEsf", -1, "Esfuerzos mayorados"},
+             {kLb, "LbCer", -1, "Cerramiento (sin mayorar)"},
+             {kLb, "LbP1", 0, "P="},
+             {kLb, "LbP1", 2, ""},
+             {kFr, "UCframeRes", -1, "Coeficientes seguridad:"},
+         }),
+         MenuDef{"Hormigon", 3, "PilaresH", "Pilares"}, kGruposPilHorm, &PilHorm::Crea},
         {"frmForjUnid", kCamposFrmForjUnid,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado Unidireccional", "Forjado Unidir. 01", kRecubEstructura, kMinimosUnidireccional,

@@ -1,6 +1,7 @@
 // Stored fields of the steel and timber element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include "concrete/PilHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
 #include "frame/Listas.h"
@@ -136,7 +137,7 @@ std::span<const TablaForm> TablasAceroMadera()
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
          Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}),
-         MenuDef{"Acero", 2, "mnuPilMet", ""}},
+         MenuDef{"Acero", 2, "mnuPilMet", ""}, {}, &PilHorm::Crea},
         {"frmBasMet", kCamposFrmBasMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Bases metálicas", "Base pilar 01", kNada, kNada,
@@ -205,7 +206,7 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "txtTramo", -1, "Dimensión (cm)"},
              {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
          }),
-         MenuDef{"Madera", 2, "mnuPilMade", ""}},
+         MenuDef{"Madera", 2, "mnuPilMade", ""}, {}, &PilHorm::Crea},
         {"frmForMade", kCamposFrmForMade,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,

@@ -1,0 +1,109 @@
+#pragma once
+// The column forms (frmPilHorm, and the steel and timber columns, which share its load
+// estimate): besides the section, the form estimates live the axial force and the two moments
+// on the column from the general data. The tributary area comes from the four distances of the
+// column's position in plan, the loads from the levels it carries and the enclosure wall.
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "frame/ElementForm.h"
+
+namespace vardena {
+
+// The positions of a column in plan, the indices of OpPosPil.
+enum class PosicionPilar { Esquina = 0, Borde = 1, Centro = 2 };
+
+// The first of the four distances LePil of each position; LePil(12) is the storey height.
+constexpr int PrimeraLuz(PosicionPilar p)
+{
+    switch (p) {
+    case PosicionPilar::Esquina: return 0;
+    case PosicionPilar::Centro: return 4;
+    case PosicionPilar::Borde: return 8;
+    }
+    return 0;
+}
+inline constexpr int kAlturaPlanta = 12;
+
+// What the estimate takes, in internal units (m, t, t/m2): the distances a1..a4, the loads per
+// m2 of the levels carried (GT, QT) and of the column's own level (G, Q), the enclosure term e
+// and the two safety coefficients of the control level.
+struct DatosCargasPilar {
+    PosicionPilar posicion = PosicionPilar::Centro;
+    std::array<double, 4> a{};
+    double gT = 0, qT = 0, g = 0, q = 0, e = 0;
+    double gammaG = 0, gammaQ = 0;
+};
+// The axial force (t), the two moments (m·t) and what goes into them.
+struct CargasPilar {
+    double area = 0;         // tributary area, m2
+    double nCerramiento = 0; // enclosure force Nc, t
+    double n = 0, mx = 0, my = 0;
+};
+CargasPilar CalculaCargasPilar(const DatosCargasPilar& datos);
+
+class PilHorm : public ElementForm {
+public:
+    PilHorm(Declaraciones& d, const TablaForm& tabla);
+    // The column form (concrete, steel or timber) from its definition.
+    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
+
+    // The load estimate: reads the form and the general data, keeps its figures and writes
+    // N, Mx and My into TxtQ(2), TxtQ(0) and TxtQ(1). Nothing while the form is being filled.
+    void CalCargas();
+
+    // The chosen position; none when no option button is set.
+    std::optional<PosicionPilar> Posicion() const;
+    // The figures of the last estimate, in internal units.
+    const CargasPilar& Cargas() const { return cargas_; }
+
+    std::string ResumenCalculo() const override;
+
+    // The plan of the column at its position (Ptpilar(i)).
+    std::optional<Croquis> CroquisDe(const Control& picture) const override;
+
+protected:
+    void CargaPropia() override;
+    // CmdCalcular: the estimate before the check takes the loads.
+    DatosComprobacion LeeDatosComprobacion() override;
+
+private:
+    // Runs an event's routine unless the form is being filled; a run-time error in it goes to
+    // the error window under the event's name.
+    template <typename F>
+    void Evento(std::string_view origen, F rutina);
+    void ConectaEventos();
+
+    void OpPosPil_Click(int index);
+    void LePil_Change(int index);
+    void CmbPlanta_Click();
+    void CmbForma_Click();
+    void ChPil_Click(int index);
+    void List1_Lee();
+
+    // What the window shows for the chosen position, level and shape; the handlers call them,
+    // and so do the load and the reading of a record, so that the window matches its fields.
+    void PresentaPosicion();
+    void PresentaPlanta();
+    void PresentaForma();
+    void PresentaLlaves();
+
+    // The loads G and Q per m2 of level `nivel` (row of CmbPlanta): floors and roof, or
+    // basements below NPlantasSobre.
+    void CargasNivel(int nivel, double& g, double& q) const;
+    // The safety coefficients (gamma g, gamma q) of the form's control level, or of the
+    // general data where the form has no list of its own.
+    void CoeficientesControl(double& gammaG, double& gammaQ);
+    double Luz(int index) const;
+
+    CargasPilar cargas_;
+    // The materials of the last estimate, t/m2 (concrete forms only).
+    double fcd_ = 0, fyd_ = 0;
+    // Set while the estimate writes its figures: their change events do not start it again.
+    bool escribiendo_ = false;
+};
+
+}  // namespace vardena
