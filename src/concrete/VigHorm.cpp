@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Texto.h"
+#include "concrete/Hormigon.h"
 #include "works/Declaraciones.h"
 #include "works/VentanaError.h"
 
@@ -45,6 +46,8 @@ VigHorm::VigHorm(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabl
     };
     At("CmbAmbGral").onClick = [this](Control&) { Evento("CmbAmbGral_Click", [&] { CmbAmbGral_Click(); }); };
     At("CmbPlanta").onClick = [this](Control&) { CmbPlanta_Click(); };
+    // The modulus follows the general data's strength and the factors of the concrete by age.
+    At("CmbHorm").onClick = [this](Control&) { decl().ModuloVigas = ModuloHormigonVigas(decl()); };
     At("ChTrans").onClick = [this](Control&) { Evento("ChTrans_Click", [&] { ChTrans_Click(); }); };
 }
 

@@ -137,6 +137,8 @@ struct Declaraciones {
     float FactorArido = 1;
     float FactorEdadE = 1;
     float ModuloHormigon = 0;
+    // The modulus of the beams' concrete, t/m2, worked out again when a beam's concrete is chosen.
+    float ModuloVigas = 0;
 
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();

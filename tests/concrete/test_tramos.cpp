@@ -126,6 +126,20 @@ TEST_F(Viga, CoverDepthLevelAndTransverseBending)
     EXPECT_TRUE(f->At("TxCota", 6).Enabled());
 }
 
+// Choosing the concrete works the modulus out again, scaled by what the concrete-by-age
+// calculator left: 850000 (fck / 100 + 8)^(1/3), fck = 2500 t/m2 giving 850000 x 33^(1/3).
+TEST_F(Viga, ChoosingTheConcreteWorksTheModulusOut)
+{
+    app.decl.GenFckHorm = 2500;
+    auto f = Carga();
+    for (const auto& [arido, edad] : {std::pair{1.0f, 1.0f}, {1.2f, 0.9f}}) {
+        app.decl.FactorArido = arido;
+        app.decl.FactorEdadE = edad;
+        f->At("CmbHorm").SetListIndex(2);
+        EXPECT_NEAR(app.decl.ModuloVigas, 850000 * 3.20753 * arido * edad, 5) << arido << " " << edad;
+    }
+}
+
 TEST_F(Viga, TheRoofHasNoColumnsBelowAndNoPartitions)
 {
     app.decl.NPlantasSobre = 2;
