@@ -27,23 +27,13 @@ std::unique_ptr<Form> VigHorm::Crea(Declaraciones& d, const TablaForm& tabla)
     return std::make_unique<VigHorm>(d, tabla);
 }
 
-VigHorm::VigHorm(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla), tramos_(*this)
+VigHorm::VigHorm(Declaraciones& d, const TablaForm& tabla) : FormaViga(d, tabla)
 {
-    for (Control* c : Controls()) {
-        if (c->Name() == "TxCota") {
-            const int i = c->Index();
-            c->onChange = [this, i](Control&) {
-                // The editor itself skips a change while the form is loading.
-                ConVentanaError(decl(), "TxCota_Change", [&] { tramos_.CambioCota(i); });
-            };
-        } else if (c->Name() == "TextDviga") {
+    for (Control* c : Controls())
+        if (c->Name() == "TextDviga") {
             const int i = c->Index();
             c->onLostFocus = [this, i](Control&) { Evento("TextDviga_LostFocus", [&] { TextDviga_LostFocus(i); }); };
         }
-    }
-    At("CmTramos").onClick = [this](Control&) {
-        ConVentanaError(decl(), "CmTramos_Click", [&] { tramos_.CambioNumero(); });
-    };
     At("CmbAmbGral").onClick = [this](Control&) { Evento("CmbAmbGral_Click", [&] { CmbAmbGral_Click(); }); };
     At("CmbPlanta").onClick = [this](Control&) { CmbPlanta_Click(); };
     // The modulus follows the general data's strength and the factors of the concrete by age.
@@ -60,7 +50,7 @@ void VigHorm::Evento(std::string_view origen, const std::function<void()>& rutin
 
 void VigHorm::CargaPropia()
 {
-    tramos_.CambioNumero();
+    FormaViga::CargaPropia();
     ChTrans_Click();
     CmbPlanta_Click();
 }

@@ -14,12 +14,10 @@ namespace vardena {
 // The cover index (of CmbRecub) that an exposure class (row of CmbAmbGral) asks for.
 int RecubrimientoDeExposicion(int exposicion);
 
-class VigHorm : public ElementForm {
+class VigHorm : public FormaViga {
 public:
     VigHorm(Declaraciones& d, const TablaForm& tabla);
     static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
-
-    const EditorTramos& Tramos() const { return tramos_; }
 
     // The beam picture PctViga: the beam with its supports and cantilevers, the load stretches
     // with their loads drawn to scale, the point loads and the lengths.
@@ -36,8 +34,6 @@ private:
     void CmbPlanta_Click();
     void TextDviga_LostFocus(int index);
     void ChTrans_Click();
-
-    EditorTramos tramos_;
 };
 
 }  // namespace vardena

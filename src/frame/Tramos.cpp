@@ -7,6 +7,7 @@
 #include "base/Texto.h"
 #include "base/VbFormat.h"
 #include "works/Declaraciones.h"
+#include "works/VentanaError.h"
 
 namespace vardena {
 
@@ -116,6 +117,26 @@ void EditorTramos::CambioNumero()
     t.r = t.L - t.a1 - t.a2;
     actuales_ = t;
     dibujo_ = DibujoTramos(n, t);
+}
+
+std::unique_ptr<Form> FormaViga::Crea(Declaraciones& d, const TablaForm& tabla)
+{
+    return std::make_unique<FormaViga>(d, tabla);
+}
+
+FormaViga::FormaViga(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla), tramos_(*this)
+{
+    for (Control* c : Controls())
+        if (c->Name() == "TxCota") {
+            const int i = c->Index();
+            c->onChange = [this, i](Control&) {
+                // The editor itself skips a change while the form is loading.
+                ConVentanaError(decl(), "TxCota_Change", [&] { tramos_.CambioCota(i); });
+            };
+        }
+    At("CmTramos").onClick = [this](Control&) {
+        ConVentanaError(decl(), "CmTramos_Click", [&] { tramos_.CambioNumero(); });
+    };
 }
 
 }  // namespace vardena

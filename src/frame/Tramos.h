@@ -7,7 +7,10 @@
 
 #include <array>
 
+#include <memory>
+
 #include "base/Form.h"
+#include "frame/ElementForm.h"
 
 namespace vardena {
 
@@ -56,6 +59,23 @@ private:
     Tramos actuales_;
     std::array<TramoDibujado, 3> dibujo_{};
     bool dentro_ = false;  // a rewrite of the editor's own raises no second pass
+};
+
+// A beam form: an element form with the spans editor wired to its lengths TxCota and its count
+// CmTramos. The beams with no other logic of their own are made as this class; the concrete
+// beam extends it.
+class FormaViga : public ElementForm {
+public:
+    FormaViga(Declaraciones& d, const TablaForm& tabla);
+    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
+
+    const EditorTramos& Tramos() const { return tramos_; }
+
+protected:
+    // The stretches over the chosen count hidden, as the form opens.
+    void CargaPropia() override { tramos_.CambioNumero(); }
+
+    EditorTramos tramos_;
 };
 
 }  // namespace vardena

@@ -5,6 +5,7 @@
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
 #include "frame/Listas.h"
+#include "frame/Tramos.h"
 
 namespace vardena {
 namespace {
@@ -130,7 +131,7 @@ std::span<const TablaForm> TablasAceroMadera()
          ListasAcero() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
          Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}),
-         MenuDef{"Acero", 1, "mnuVigMet", ""}},
+         MenuDef{"Acero", 1, "mnuVigMet", ""}, {}, &FormaViga::Crea},
         {"frmPilMet", kCamposFrmPilMet,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
@@ -196,7 +197,7 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "TextDviga", 0, "Ancho b (cm)"},
              {kTx, "TextDviga", 1, "Canto h (cm)"},
          }),
-         MenuDef{"Madera", 1, "mnuVigMade", ""}},
+         MenuDef{"Madera", 1, "mnuVigMade", ""}, {}, &FormaViga::Crea},
         {"frmPilMade", kCamposFrmPilMade,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,

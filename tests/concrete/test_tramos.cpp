@@ -7,6 +7,7 @@
 
 #include "concrete/VigHorm.h"
 #include "frame/Campos.h"
+#include "frame/Formularios.h"
 #include "frame/Tramos.h"
 #include "support/TestSupport.h"
 
@@ -102,6 +103,25 @@ TEST_F(Viga, TheSpansEditorOnTheForm)
     // A value of 0 changes nothing.
     f->At("TxCota", 1).SetText("0");
     EXPECT_DOUBLE_EQ(f->Tramos().Actuales().L, 6);
+}
+
+// The steel and timber beams keep their stretches by the same editor.
+TEST_F(Viga, TheSiblingBeamsShareTheSpansEditor)
+{
+    app.decl.CarpetaObra = obra.path();
+    for (const char* nombre : {"frmVigHorm", "frmVigMet", "frmVigMade"}) {
+        SCOPED_TRACE(nombre);
+        auto f = CargaForm(app.decl, nombre);
+        ASSERT_TRUE(dynamic_cast<FormaViga*>(f.get()));
+        f->At("CmTramos").SetListIndex(2);
+        f->At("TxCota", 2).SetText("2");
+        f->At("TxCota", 3).SetText("2");
+        f->At("TxCota", 1).SetText("3");
+        EXPECT_EQ(f->At("TxCota", 2).Text(), "1.5");
+        EXPECT_EQ(f->At("TxCota", 3).Text(), "1.5");
+        f->At("CmTramos").SetListIndex(0);
+        EXPECT_FALSE(f->At("TxCota", 3).Visible());
+    }
 }
 
 TEST_F(Viga, CoverDepthLevelAndTransverseBending)
