@@ -32,6 +32,15 @@ TEST(FormTables, EveryCatalogueElementFormAndTheFreeTextFormsHaveATable)
         EXPECT_EQ(CodigoEnCatalogo(name), "") << name << " has no catalogue row";
     }
     EXPECT_EQ(TablasCampos().size(), 34u + 8u);
+    // Each family checks its own names when it compiles; across families a name, in any case,
+    // still stands for one form, as CreaForm and the catalogue look it up.
+    std::set<std::string> nombres;
+    for (const auto& t : TablasCampos()) {
+        std::string n(t.nombre);
+        for (char& c : n)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        EXPECT_TRUE(nombres.insert(n).second) << t.nombre << " is defined twice";
+    }
 }
 
 // Transcription mistakes show up as a member defined twice, an array that changes kind, a text
