@@ -6,7 +6,6 @@
 #include <optional>
 #include <random>
 
-#include "building/Acciones.h"
 #include "building/DatosGen.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
@@ -199,11 +198,10 @@ void RunOnce(RunState& s, const Dispatch& dispatch, const std::string& name)
     ConVentanaError(s.d, "CmdCalcular_Click", [&] { form->At("CmdCalcular").Click(); });
     const auto* element = dynamic_cast<const ElementForm*>(form.get());
     const std::string written = element ? element->UltimoGuardado() : std::string();
-    std::string note = "the actions were recalculated from the record's data and saved in the named format with "
-                       "their results file; every other field keeps its value";
-    if (const auto* acciones = dynamic_cast<const Acciones*>(form.get()); acciones && acciones->SinTablaViento())
-        note += "; no wind table was made: the building's width or length is not above 0, or no wind zone or "
-                "terrain class is chosen";
+    // The form that the run saves once (the actions) says what its calculation did.
+    std::string note = element ? element->ResumenCalculo() : std::string();
+    if (note.empty())
+        note = "saved in the named format";
     form->Form_Unload();
     s.log.entries.push_back({Status::Saved, path, dispatch.form, written, note});
     ++s.log.records;

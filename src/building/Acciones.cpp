@@ -309,11 +309,6 @@ Entorno ConstantesEntorno(int clase)
 
 // ---- The form ----
 
-std::unique_ptr<Form> Acciones::Crea(Declaraciones& d, const TablaForm& tabla)
-{
-    return std::make_unique<Acciones>(d, tabla);
-}
-
 Acciones::Acciones(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla)
 {
     // Each handler runs under the error window with its own name; while a record is being read
@@ -325,7 +320,6 @@ Acciones::Acciones(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, ta
             ConVentanaError(decl(), nombre, cuerpo);
         };
     };
-    At("CmdCalcular").onClick = [this](Control&) { CmdCalcular_Acciones(); };
     for (const AccionMarcos& a : kAcciones) {
         const std::string casilla = a.casilla;
         conecta(At(casilla), casilla + "_Click", [this, casilla] { ChAccion_Click(casilla); }, true);
@@ -365,6 +359,15 @@ bool Acciones::PlantasAdmitidas()
     if (PlantasEnTablas(d))
         return true;
     d.ui.MsgBox(TextoPlantas(d), mb::Exclamation, Caption());
+    return false;
+}
+
+bool Acciones::PuedeCalcular()
+{
+    if (PlantasAdmitidas())
+        return true;
+    // Nothing is calculated or saved: the user has been told why.
+    decl().UltimoGuardadoRechazado = TextoPlantas(decl());
     return false;
 }
 
@@ -413,28 +416,26 @@ void Acciones::CargaPropia()
     d.Cargando = kTrue;
 }
 
-void Acciones::CmdCalcular_Acciones()
+void Acciones::TrasGuardado()
 {
     Declaraciones& d = decl();
-    d.UltimoGuardadoRechazado.clear();
-    // Nothing is calculated or saved: the user has been told why.
-    if (!PlantasAdmitidas()) {
-        d.UltimoGuardadoRechazado = TextoPlantas(d);
-        return;
-    }
-    CmdCalcular_Click();
-    if (UltimoGuardado().empty())
-        return;
-    // The record read back, as the window shows a saved record.
-    ConVentanaError(d, "CmdCalcular_Click", [&] {
-        if (d.DoEvents)
-            d.DoEvents();
-        const int16_t antes = d.Cargando;
-        d.Cargando = kTrue;
-        std::string titulo = kTitulo;
-        LeeForm(*this, titulo);
-        d.Cargando = antes;
-    });
+    if (d.DoEvents)
+        d.DoEvents();
+    const int16_t antes = d.Cargando;
+    d.Cargando = kTrue;
+    std::string titulo = kTitulo;
+    LeeForm(*this, titulo);
+    d.Cargando = antes;
+}
+
+std::string Acciones::ResumenCalculo() const
+{
+    std::string resumen = "the actions were recalculated from the record's data and saved in the named format with "
+                          "their results file; every other field keeps its value";
+    if (sinTablaViento_)
+        resumen += "; no wind table was made: the building's width or length is not above 0, or no wind zone or "
+                   "terrain class is chosen";
+    return resumen;
 }
 
 void Acciones::CalculoPropio()

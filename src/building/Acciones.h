@@ -50,8 +50,6 @@ Entorno ConstantesEntorno(int clase);
 class Acciones : public ElementForm {
 public:
     Acciones(Declaraciones& d, const TablaForm& tabla);
-    // The actions form from its definition.
-    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
 
     // The form's routines.
     void CalculaNieve();
@@ -62,9 +60,9 @@ public:
     void EscribeAcciones();
     void ColocaMasas();
 
-    // Its events. The button: when the floors fit, the three calculations, the results file and
-    // the save, then the record read back; when not, a message and nothing else.
-    void CmdCalcular_Acciones();
+    // Its events. The button runs the element's cycle: when the floors fit, the three
+    // calculations, the results file and the save, then the record read back; when not, a
+    // message and nothing else.
     void ChAccion_Click(const std::string& casilla);
     void cmbImportSismo_Click();
     void cmbSueloSismo_Click();
@@ -86,16 +84,23 @@ public:
     bool SinTablaViento() const { return sinTablaViento_; }
     const std::vector<std::string>& Avisos() const { return avisos_; }
 
+    // What the conversion's log says of the last press: recalculated, and whether a wind table
+    // could be made.
+    std::string ResumenCalculo() const override;
+
 protected:
     void CargaPropia() override;
+    // The floors must fit the tables of the calculation; when not, the user is told why.
+    bool PuedeCalcular() override;
     void CalculoPropio() override;
+    // The record read back, as the window shows a saved record.
+    void TrasGuardado() override;
 
 private:
     // The three calculations as CmdCalcular runs them: each action checked is calculated, the
     // result of each one not checked is emptied.
     void CalculaAcciones();
-    // Whether the building's floors fit the tables of the calculation; when not, the user is told
-    // and nothing is calculated.
+    // Whether the building's floors fit the tables of the calculation; when not, the user is told.
     bool PlantasAdmitidas();
     // The frames of an action follow its check box.
     void ActivaAccion(const std::string& casilla);

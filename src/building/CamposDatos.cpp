@@ -242,7 +242,7 @@ std::span<const TablaForm> TablasDatosYLibres()
              {kTx, "txtC", -1, "Coeficiente C de los estratos"},
          }),
          {},
-         kGruposAcciones, &Acciones::Crea},
+         kGruposAcciones, &CreaDe<Acciones>},
         TablaDatosProy(),
         // The blank element's concrete list starts at HA-25, behind its "Idem gral." row.
         TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno,

@@ -60,26 +60,12 @@ CargasPilar CalculaCargasPilar(const DatosCargasPilar& x)
     return r;
 }
 
-std::unique_ptr<Form> PilHorm::Crea(Declaraciones& d, const TablaForm& tabla)
-{
-    return std::make_unique<PilHorm>(d, tabla);
-}
-
 PilHorm::PilHorm(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla)
 {
     // The list of the oblique factors is kept for the check and never shown.
     if (Control* esviada = Find("cmbesviada"))
         esviada->SetVisible(false);
     ConectaEventos();
-}
-
-template <typename F>
-void PilHorm::Evento(std::string_view origen, F rutina)
-{
-    Declaraciones& d = decl();
-    if (d.Cargando != kFalse)
-        return;
-    ConVentanaError(d, origen, rutina);
 }
 
 void PilHorm::ConectaEventos()

@@ -48,8 +48,6 @@ CargasPilar CalculaCargasPilar(const DatosCargasPilar& datos);
 class PilHorm : public ElementForm {
 public:
     PilHorm(Declaraciones& d, const TablaForm& tabla);
-    // The column form (concrete, steel or timber) from its definition.
-    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
 
     // The load estimate: reads the form and the general data, keeps its figures and writes
     // N, Mx and My into TxtQ(2), TxtQ(0) and TxtQ(1). Nothing while the form is being filled.
@@ -71,10 +69,6 @@ protected:
     DatosComprobacion LeeDatosComprobacion() override;
 
 private:
-    // Runs an event's routine unless the form is being filled; a run-time error in it goes to
-    // the error window under the event's name.
-    template <typename F>
-    void Evento(std::string_view origen, F rutina);
     void ConectaEventos();
 
     void OpPosPil_Click(int index);

@@ -22,11 +22,6 @@ int RecubrimientoDeExposicion(int exposicion)
     }
 }
 
-std::unique_ptr<Form> VigHorm::Crea(Declaraciones& d, const TablaForm& tabla)
-{
-    return std::make_unique<VigHorm>(d, tabla);
-}
-
 VigHorm::VigHorm(Declaraciones& d, const TablaForm& tabla) : FormaViga(d, tabla)
 {
     for (Control* c : Controls())
@@ -39,13 +34,6 @@ VigHorm::VigHorm(Declaraciones& d, const TablaForm& tabla) : FormaViga(d, tabla)
     // The modulus follows the general data's strength and the factors of the concrete by age.
     At("CmbHorm").onClick = [this](Control&) { decl().ModuloVigas = ModuloHormigonVigas(decl()); };
     At("ChTrans").onClick = [this](Control&) { Evento("ChTrans_Click", [&] { ChTrans_Click(); }); };
-}
-
-void VigHorm::Evento(std::string_view origen, const std::function<void()>& rutina)
-{
-    if (decl().Cargando != kFalse)
-        return;
-    ConVentanaError(decl(), origen, rutina);
 }
 
 void VigHorm::CargaPropia()

@@ -17,7 +17,6 @@ int RecubrimientoDeExposicion(int exposicion);
 class VigHorm : public FormaViga {
 public:
     VigHorm(Declaraciones& d, const TablaForm& tabla);
-    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
 
     // The beam picture PctViga: the beam with its supports and cantilevers, the load stretches
     // with their loads drawn to scale, the point loads and the lengths.
@@ -27,9 +26,6 @@ protected:
     void CargaPropia() override;
 
 private:
-    // Runs an event's routine unless the form is being filled; a run-time error in it goes to
-    // the error window under the event's name.
-    void Evento(std::string_view origen, const std::function<void()>& rutina);
     void CmbAmbGral_Click();
     void CmbPlanta_Click();
     void TextDviga_LostFocus(int index);

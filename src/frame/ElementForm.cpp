@@ -206,9 +206,19 @@ void ElementForm::txtTitulo_KeyPress(int& keyAscii)
         keyAscii = 0;
 }
 
+void ElementForm::Evento(std::string_view origen, const std::function<void()>& rutina)
+{
+    if (decl().Cargando != kFalse)
+        return;
+    ConVentanaError(decl(), origen, rutina);
+}
+
 void ElementForm::CmdCalcular_Click()
 {
     Declaraciones& d = decl();
+    d.UltimoGuardadoRechazado.clear();
+    if (!PuedeCalcular())
+        return;
     ConVentanaError(d, "CmdCalcular_Click", [&] {
         guardado_.clear();
         if (ciclo_.pregunta && !ConfirmaReemplazo())

@@ -9,9 +9,12 @@
 // the hooks below. The factory in Formularios.cpp says which class a form name gets.
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "frame/Campos.h"
@@ -76,11 +79,18 @@ protected:
     // Step 3 of CmdCalcular_Click: the check step. The default makes the no-op call in the
     // argument shape of the form's life-cycle row.
     virtual void Comprueba(const DatosComprobacion& datos);
+    // Step 0 of CmdCalcular_Click: whether the form can be calculated and saved at all. A form
+    // that refuses has told the user why and leaves the sentence in UltimoGuardadoRechazado.
+    virtual bool PuedeCalcular() { return true; }
     // The calculation of a form whose save has no check call before it (frmAccio, frmSuelo):
     // runs just before the save. None by default.
     virtual void CalculoPropio() {}
     // Runs after a save that went through, before the version label is set. None by default.
     virtual void TrasGuardado() {}
+
+    // Runs an event's routine unless a record is being read (what it stored stays as read); a
+    // run-time error in it goes to the error window under the event's name.
+    void Evento(std::string_view origen, const std::function<void()>& rutina);
 
     // For a form with one fixed record: whether its load found that record.
     bool RegistroFijoEncontrado() const { return lectura_.found(); }
@@ -124,6 +134,13 @@ inline constexpr ControlDelMarco kMarcoElemento[] = {
     {Kind::Frame, "UCframeRecDat", "Recuperar datos"}, {Kind::Frame, "UCframe2", "Resultados"},
 };
 bool EsDelMarco(std::string_view nombre);
+
+// The maker of a form class with logic of its own, for the `crea` of its definition.
+template <typename T>
+std::unique_ptr<Form> CreaDe(Declaraciones& d, const TablaForm& tabla)
+{
+    return std::make_unique<T>(d, tabla);
+}
 
 // Keys that cannot stand in a file name; txtTitulo swallows them.
 bool TeclaProhibidaEnTitulo(int keyAscii);

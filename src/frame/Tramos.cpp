@@ -119,11 +119,6 @@ void EditorTramos::CambioNumero()
     dibujo_ = DibujoTramos(n, t);
 }
 
-std::unique_ptr<Form> FormaViga::Crea(Declaraciones& d, const TablaForm& tabla)
-{
-    return std::make_unique<FormaViga>(d, tabla);
-}
-
 FormaViga::FormaViga(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla), tramos_(*this)
 {
     for (Control* c : Controls())

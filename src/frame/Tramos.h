@@ -67,7 +67,6 @@ private:
 class FormaViga : public ElementForm {
 public:
     FormaViga(Declaraciones& d, const TablaForm& tabla);
-    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
 
     const EditorTramos& Tramos() const { return tramos_; }
 

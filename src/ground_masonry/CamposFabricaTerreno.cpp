@@ -406,7 +406,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "txtTadm", -1, "Tensión admisible de hundimiento (kN/m2)"},
              {kTx, "txtServ", -1, "Tensión admisible de servicio (kN/m2)"},
          }),
-         MenuDef{"Cimentacion", 1, "mnuSuelo", ""}, kGruposSuelo, &Suelo::Crea},
+         MenuDef{"Cimentacion", 1, "mnuSuelo", ""}, kGruposSuelo, &CreaDe<Suelo>},
         {"frmZap", kCamposFrmZap,
          // Plan sizes at least 40 cm, depths 30 cm and column sides 10 cm, as the strip footing.
          {true, true, PasoComprobacion::SinArgumentos, false},

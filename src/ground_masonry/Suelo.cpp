@@ -47,11 +47,6 @@ constexpr const char* kFactoresPeso[] = {"txtDg", "txtSg", "txtIg", "txtTg"};
 
 }  // namespace
 
-std::unique_ptr<Form> Suelo::Crea(Declaraciones& d, const TablaForm& tabla)
-{
-    return std::make_unique<Suelo>(d, tabla);
-}
-
 Suelo::Suelo(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla)
 {
     // The window as designed: the sketch of the slab and the rock frame wait for their entries,
@@ -65,10 +60,10 @@ Suelo::Suelo(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla)
 void Suelo::ConectaEventos()
 {
     auto cambio = [this](const char* control, const char* origen, void (Suelo::*rutina)()) {
-        At(control).onChange = [this, origen, rutina](Control&) { Evento(origen, rutina); };
+        At(control).onChange = [this, origen, rutina](Control&) { Evento(origen, [this, rutina] { (this->*rutina)(); }); };
     };
     auto clic = [this](const char* control, const char* origen, void (Suelo::*rutina)()) {
-        At(control).onClick = [this, origen, rutina](Control&) { Evento(origen, rutina); };
+        At(control).onClick = [this, origen, rutina](Control&) { Evento(origen, [this, rutina] { (this->*rutina)(); }); };
     };
     clic("CmbTerreno", "CmbTerreno_Click", &Suelo::CmbTerreno_Click);
     clic("ComboCim", "ComboCim_Click", &Suelo::ComboCim_Click);
@@ -82,14 +77,6 @@ void Suelo::ConectaEventos()
     cambio("txtV", "txtV_Change", &Suelo::Calc_FactIncl);
     cambio("txtAng", "txtAng_Change", &Suelo::Talud);
     At("List1").onClick = [this](Control&) { List1_Lee(); };
-}
-
-void Suelo::Evento(std::string_view origen, void (Suelo::*rutina)())
-{
-    Declaraciones& d = decl();
-    if (d.Cargando != kFalse)
-        return;
-    ConVentanaError(d, origen, [&] { (this->*rutina)(); });
 }
 
 // ---- Reading the fields and the arithmetic the run time refuses ----

@@ -39,8 +39,6 @@ enum class TipoCimiento { Rectangular = 0, Corrida = 1, Circular = 2, Losa = 3 }
 class Suelo : public ElementForm {
 public:
     Suelo(Declaraciones& d, const TablaForm& tabla);
-    // The soil form from its definition.
-    static std::unique_ptr<Form> Crea(Declaraciones& d, const TablaForm& tabla);
 
     // The bearing pressure: writes the bearing factors, qh / 3 into txtTa and txtTadm, the
     // granular service pressure into txtServ (or "No"), shows the warnings and writes the report.
@@ -59,9 +57,6 @@ protected:
     void TrasGuardado() override;
 
 private:
-    // Runs an event's routine unless the form is being filled; a run-time error in it goes to
-    // the error window under the event's name.
-    void Evento(std::string_view origen, void (Suelo::*rutina)());
     void ConectaEventos();
 
     void Calc_ServGranular();
