@@ -623,12 +623,7 @@ TEST_F(FormAcciones, TheResultsFileOpensInLibreOffice)
     d.Mensajes[1510] = "Acción sísmica";
     auto f = Edificio();
     f->At("CmdCalcular").Click();
-    std::string texto = test::ConvierteConLibreOffice(soffice, obra.path(), obra / "Acciones.lCK",
-                                                      "txt:Text (encoded):UTF8", "Acciones.txt");
-    if (texto.rfind("\xEF\xBB\xBF", 0) == 0)
-        texto.erase(0, 3);
-    for (size_t k = texto.find("\xE2\x80\x86"); k != std::string::npos; k = texto.find("\xE2\x80\x86", k))
-        texto.erase(k, 3);
+    const std::string texto = test::TextoDeLibreOffice(soffice, obra.path(), obra / "Acciones.lCK", "Acciones.txt");
     for (const char* linea : {"Obra de prueba", "Acción de nieve", "Acción del viento en dirección x-x'",
                               "Acción sísmica", "Fuerzas sísmicas por planta y modo (kN)"})
         EXPECT_NE(texto.find(linea), std::string::npos) << linea << "\n" << texto;

@@ -436,16 +436,8 @@ TEST_F(Soil, ReportsOpenInLibreOffice)
     const std::string soffice = test::OnPath("soffice");
     if (soffice.empty())
         GTEST_SKIP() << "soffice is not on PATH";
-    // The text as LibreOffice writes it, without its byte-order mark and the narrow spaces it
-    // puts into runs of blanks.
     auto convierte = [&](const std::string& titulo) {
-        std::string t = test::ConvierteConLibreOffice(soffice, dir.path(), dir / (titulo + ".lCS"),
-                                                      "txt:Text (encoded):UTF8", titulo + ".txt");
-        if (t.rfind("\xEF\xBB\xBF", 0) == 0)
-            t.erase(0, 3);
-        for (size_t k = t.find("\xE2\x80\x86"); k != std::string::npos; k = t.find("\xE2\x80\x86", k))
-            t.erase(k, 3);
-        return t;
+        return test::TextoDeLibreOffice(soffice, dir.path(), dir / (titulo + ".lCS"), titulo + ".txt");
     };
     auto f = Load();
     Pon(*f, {{"chkServ", "1"}, {"Text4", "12"}});

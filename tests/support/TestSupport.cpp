@@ -154,4 +154,15 @@ std::string ConvierteConLibreOffice(const std::string& soffice, const std::strin
     return std::filesystem::exists(ruta) ? Slurp(ruta) : std::string();
 }
 
+std::string TextoDeLibreOffice(const std::string& soffice, const std::string& carpeta, const std::string& rtf,
+                               const std::string& salida)
+{
+    std::string t = ConvierteConLibreOffice(soffice, carpeta, rtf, "txt:Text (encoded):UTF8", salida);
+    if (t.rfind("\xEF\xBB\xBF", 0) == 0)
+        t.erase(0, 3);
+    for (size_t k = t.find("\xE2\x80\x86"); k != std::string::npos; k = t.find("\xE2\x80\x86", k))
+        t.erase(k, 3);
+    return t;
+}
+
 }  // namespace vardena::test

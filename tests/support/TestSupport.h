@@ -78,5 +78,9 @@ std::string OnPath(const std::string& program);
 // it writes there; "" when it writes none (the test has failed then, with the log).
 std::string ConvierteConLibreOffice(const std::string& soffice, const std::string& carpeta, const std::string& rtf,
                                     const std::string& filtro, const std::string& salida);
+// The RTF file as LibreOffice reads it, as UTF-8 text (written to `salida` in `carpeta`),
+// without its byte-order mark and the narrow spaces it puts into runs of blanks.
+std::string TextoDeLibreOffice(const std::string& soffice, const std::string& carpeta, const std::string& rtf,
+                               const std::string& salida);
 
 }  // namespace vardena::test
