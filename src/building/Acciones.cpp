@@ -315,9 +315,10 @@ Acciones::Acciones(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, ta
     // the handlers that change other fields return at once, so that what was stored stays.
     auto conecta = [this](Control& c, std::string nombre, std::function<void()> cuerpo, bool guardado) {
         c.onClick = [this, nombre, cuerpo, guardado](Control&) {
-            if (guardado && decl().Cargando)
-                return;
-            ConVentanaError(decl(), nombre, cuerpo);
+            if (guardado)
+                Evento(nombre, cuerpo);
+            else
+                ConVentanaError(decl(), nombre, cuerpo);
         };
     };
     for (const AccionMarcos& a : kAcciones) {
@@ -339,10 +340,7 @@ Acciones::Acciones(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, ta
     conecta(At("cmdAltitud"), "cmdAltitud_Click", [this] { cmdAltitud_Click(); }, false);
     conecta(At("cmdEolica"), "cmdEolica_Click", [this] { cmdEolica_Click(); }, false);
     conecta(At("cmdAgG"), "cmdAgG_Click", [this] { cmdAgG_Click(); }, false);
-    At("txtEstratos").onChange = [this](Control&) {
-        if (!decl().Cargando)
-            ConVentanaError(decl(), "txtEstratos_Change", [this] { txtEstratos_Change(); });
-    };
+    At("txtEstratos").onChange = [this](Control&) { Evento("txtEstratos_Change", [this] { txtEstratos_Change(); }); };
     At("LbAvisoViento").SetVisible(false);
     // The tables of wind and earthquake line up their columns with tabs, in a fixed-width font.
     for (const char* tabla : {"RichTextBox2", "RichTextBox3"})
