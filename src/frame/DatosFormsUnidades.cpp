@@ -13,6 +13,12 @@
 namespace vardena {
 namespace {
 
+// The labels beside each load field TxtQ(i): the hidden factor to S.I., and the shown units of
+// the technical and of the S.I. system.
+constexpr std::string_view kFactorSI = "LbQSI";
+constexpr std::string_view kUnidadTecnica = "lbST";
+constexpr std::string_view kUnidadSI = "lbSI";
+
 struct Unidad {
     Magnitud clave;
     std::string_view factor;   // the caption of LbQSI
@@ -63,16 +69,16 @@ void ControlesUnidades(Form& form)
         const Unidad* u = UnidadDe(t->cargas[static_cast<size_t>(i)]);
         if (!u)
             continue;
-        AddLabel(form, "LbQSI", i, u->factor, false);
+        AddLabel(form, kFactorSI, i, u->factor, false);
         // Shown as the technical system until CambiaUnidades sets the pair by the work.
-        AddLabel(form, "lbST", i, u->tecnico, true);
-        AddLabel(form, "lbSI", i, u->si, false);
+        AddLabel(form, kUnidadTecnica, i, u->tecnico, true);
+        AddLabel(form, kUnidadSI, i, u->si, false);
     }
 }
 
 bool EsEtiquetaDeUnidad(std::string_view nombre)
 {
-    return nombre == "LbQSI" || nombre == "lbST" || nombre == "lbSI";
+    return nombre == kFactorSI || nombre == kUnidadTecnica || nombre == kUnidadSI;
 }
 
 }  // namespace vardena
