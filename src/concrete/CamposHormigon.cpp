@@ -3,6 +3,8 @@
 
 #include "concrete/PilHorm.h"
 #include "concrete/VigHorm.h"
+#include "concrete/VigPared.h"
+#include "concrete/VigRegHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
 #include "frame/GruposVentana.h"
@@ -36,6 +38,36 @@ constexpr GrupoDef kGruposVigHorm[] = {
     {"FrViga", 0, kVigHormViga, {}, 0},          {"FrDatosViga", 0, kVigHormDatos, {}, 1},
     {"FrCargasViga", 0, kVigHormCargas, {}, 1},  {"FrPuntualesViga", 0, kVigHormPuntuales, {}, 1},
     {"FrArmadoViga", 0, kVigHormArmado, {}, 2},  {"UCframeT", 0, kVigHormTransversal, {}, 1},
+};
+
+// The beam of a regular frame: the plan of the frame with its bays and the nine beams to choose
+// beside the beam as frmVigHorm draws it, its data, loads and reinforcement, and the frame's
+// forces.
+constexpr std::string_view kVigRegEsquema[] = {"Picture2", "cmbTrPort", "cmbTrForj", "txtCotHz", "txtCotVert"};
+constexpr std::string_view kVigRegPortico[] = {"optViga"};
+constexpr std::string_view kVigRegDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta", "TxRedistr"};
+constexpr std::string_view kVigRegCerramiento[] = {"TxtQ(7)"};
+constexpr std::string_view kVigRegEsfuerzos[] = {"txtMom", "txtCor", "txtGiro"};
+constexpr GrupoDef kGruposVigRegHorm[] = {
+    {"FrEsquema", 0, kVigRegEsquema, {}, 0},        {"FrPortico", 0, kVigRegPortico, {}, 0},
+    {"FrViga", 0, kVigHormViga, {}, 1},             {"FrCargasViga", 0, kVigHormCargas, {}, 1},
+    {"FrDatosViga", 0, kVigRegDatos, {}, 2},        {"FrPuntualesViga", 0, kVigHormPuntuales, {}, 2},
+    {"FrCerramiento", 0, kVigRegCerramiento, {}, 2}, {"UCframeT", 0, kVigHormTransversal, {}, 2},
+    {"FrArmadoViga", 0, kVigHormArmado, {}, 1},     {"FrEsfuerzos", 0, kVigRegEsfuerzos, {}, 2},
+};
+
+// The deep beam: the beam drawn with its spans and stretches, its loads, the beams beside it and
+// its columns, then its bars and meshes.
+constexpr std::string_view kVigParedViga[] = {"PctViga",   "CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)",
+                                              "TextDviga", "TxtPil(0)", "TxtPil(1)", "ChPilIzq",  "ChPilDer"};
+constexpr std::string_view kVigParedContiguas[] = {"ChVigIzq", "TxCota(0)", "ChVigDer", "TxCota(4)"};
+constexpr std::string_view kVigParedCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "ChkPuntual", "TxtQ(0)", "TxtQ(4)", "Check1"};
+constexpr std::string_view kVigParedDatos[] = {"txtDat2"};
+constexpr std::string_view kVigParedArmado[] = {"UCArVigIzq", "UCArVigCen", "UCArVigder", "UCMallazo1", "UCMallazo2"};
+constexpr GrupoDef kGruposVigPared[] = {
+    {"FrViga", 0, kVigParedViga, {}, 0},       {"FrContiguas", 0, kVigParedContiguas, {}, 0},
+    {"FrCargasViga", 0, kVigParedCargas, {}, 1}, {"FrDatosViga", 0, kVigParedDatos, {}, 1},
+    {"FrArmadoViga", 0, kVigParedArmado, {}, 2},
 };
 
 // The stored fields of each form, in the order of its record.
@@ -280,16 +312,42 @@ std::span<const TablaForm> TablasHormigon()
          Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}, {
              {kCb, "cmbTrPort", -1, "Nº tramos pórtico"},
              {kCb, "cmbTrForj", -1, "Nº tramos forjado"},
+             {kFr, "FrEsquema", -1, "Esquema en planta"},
+             {kPc, "Picture2", -1, ""},
+             {kFr, "FrPortico", -1, "Pórtico"},
+             {kFr, "FrDatosViga", -1, "Datos iniciales"},
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
+             {kFr, "FrCerramiento", -1, "Cerramiento perimetral"},
+             {kFr, "FrArmadoViga", -1, "Armado"},
+             {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
+             {kFr, "FrEsfuerzos", -1, "Esfuerzos del pórtico"},
+             {kPc, "PctViga", -1, ""},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
              {kTx, "txtCotHz", -1, "Luces en planta (m)"},
+             {kTx, "txtCotHz", 0, "Voladizo izquierdo (m)"},
+             {kTx, "txtCotHz", 1, "Vano 1 (m)"},
+             {kTx, "txtCotHz", 2, "Vano 2 (m)"},
+             {kTx, "txtCotHz", 3, "Vano 3 (m)"},
+             {kTx, "txtCotHz", 4, "Vano 4 (m)"},
+             {kTx, "txtCotHz", 5, "Voladizo derecho (m)"},
              {kTx, "txtCotVert", -1, "Luces transversales (m)"},
+             {kTx, "txtCotVert", 0, "Voladizo del forjado (m)"},
+             {kTx, "txtCotVert", 1, "Luz forjado 1 (m)"},
+             {kTx, "txtCotVert", 2, "Luz forjado 2 (m)"},
+             {kTx, "txtCotVert", 3, "Luz forjado 3 (m)"},
              {kOp, "optViga", -1, "Viga #"},
+             {kOp, "optViga", 0, "Viga 1"}, {kOp, "optViga", 1, "Viga 2"}, {kOp, "optViga", 2, "Viga 3"},
+             {kOp, "optViga", 3, "Viga 4"}, {kOp, "optViga", 4, "Viga 5"}, {kOp, "optViga", 5, "Viga 6"},
+             {kOp, "optViga", 6, "Viga 7"}, {kOp, "optViga", 7, "Viga 8"}, {kOp, "optViga", 8, "Viga 9"},
              {kTx, "TxRedistr", -1, "Redistribución plástica (%)"},
              {kTx, "TxtQ", 7, "Cerramiento perimetral (sin mayorar)"},
              {kTx, "txtMom", -1, "Momento"},
              {kTx, "txtCor", -1, "Cortante"},
              {kTx, "txtGiro", -1, "Giro"},
          }),
-         MenuDef{"Hormigon", 2, "VigasHR", "Vigas Regulares"}},
+         MenuDef{"Hormigon", 2, "VigasHR", "Vigas Regulares"}, kGruposVigRegHorm, &CreaDe<VigRegHorm>},
         {"frmPilHorm", kCamposFrmPilHorm,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilares de Hormigón Armado", "Pilar Hormigón 01", kRecubYPosicionInterior, kMinimosPilar,
@@ -479,6 +537,21 @@ std::span<const TablaForm> TablasHormigon()
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza}, Despacho::Registros, false,
          // The deep beam: the spans editor of a beam with its own bars and meshes.
          Visibles({EtiquetasContinuidad, EtiquetasPilaresViga}, {
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrContiguas", -1, "Luz viga contigua"},
+             {kFr, "FrCargasViga", -1, "Cargas"},
+             {kFr, "FrDatosViga", -1, "Flecha"},
+             {kFr, "FrArmadoViga", -1, "Armado principal total y reparto por cara"},
+             {kPc, "PctViga", -1, ""},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+             {kTx, "TxCota", 0, "Luz viga contigua izquierda (m)"},
+             {kTx, "TxCota", 1, "Luz total (m)"},
+             {kTx, "TxCota", 2, "Tramo 1 (m)"},
+             {kTx, "TxCota", 3, "Tramo 2 (m)"},
+             {kTx, "TxCota", 4, "Luz viga contigua derecha (m)"},
+             {kTx, "TxtQ", 1, "Carga repartida q1"},
+             {kTx, "TxtQ", 2, "Carga repartida q2"},
+             {kTx, "TxtQ", 3, "Carga repartida q3"},
              {kTx, "txtDat2", -1, "Límite flecha 1/"},
              {kCk, "ChkPuntual", -1, "Poner carga puntual"},
              {kCk, "Check1", -1, "Carga aplicada en cara inferior viga"},
@@ -499,7 +572,7 @@ std::span<const TablaForm> TablasHormigon()
              {kTx, "TxtRes2", -1, "Aramduras"},
              {kTx, "TxtRes3", -1, "Mallazo"},
          }),
-         MenuDef{"Hormigon", 10, "Vigapared", "Viga Pared"}},
+         MenuDef{"Hormigon", 10, "Vigapared", "Viga Pared"}, kGruposVigPared, &CreaDe<VigPared>},
         {"frmEscHorm", kCamposFrmEscHorm,
          {true, true, PasoComprobacion::Bandera, false},
          "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubEstructura, kMinimosEscHorm,

@@ -55,7 +55,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
     menu->close();
     const std::pair<const char*, const char*> ventanas[] = {
         {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
-        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}};
+        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"},
+        {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)

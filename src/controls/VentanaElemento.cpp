@@ -117,6 +117,7 @@ private:
         case PapelCroquis::Superficie: return QPen(QColor("#5b4a2a"), 2);
         case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
+        case PapelCroquis::Ausente: return QPen(QColor("#9aa3ad"), 1, Qt::DashLine);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }

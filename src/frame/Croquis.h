@@ -22,6 +22,7 @@ enum class PapelCroquis {
     Superficie,  // the ground's surface line
     Cota,        // a dimension
     Carga,       // a load on the ground
+    Ausente,     // a member a scheme shows where the structure has none: dashed, faint
 };
 
 enum class FiguraCroquis {

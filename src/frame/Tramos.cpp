@@ -53,6 +53,21 @@ std::array<double, 3> AlturasCargas(double q1, double q2, double q3)
     return {q[0] / maximo, q[1] / maximo, q[2] / maximo};
 }
 
+std::string TextoLlano(double valor)
+{
+    std::string texto = VbStr(valor);
+    texto.erase(0, texto.find_first_not_of(' '));
+    return texto;
+}
+
+void FiltraTeclaNumero(int& keyAscii)
+{
+    const bool pasa = keyAscii < 32 || (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == ',' ||
+                      keyAscii == '-';
+    if (!pasa)
+        keyAscii = 0;
+}
+
 int EditorTramos::Numero() const
 {
     return std::clamp(form_.At("CmTramos").ListIndex() + 1, 1, 3);
@@ -72,11 +87,9 @@ double EditorTramos::Cota(int index, bool escribeOcultas)
 
 void EditorTramos::Escribe(int index, double valor)
 {
-    std::string texto = VbStr(valor);
-    texto.erase(0, texto.find_first_not_of(' '));
     const bool antes = dentro_;
     dentro_ = true;
-    form_.At("TxCota", index).SetText(texto);
+    form_.At("TxCota", index).SetText(TextoLlano(valor));
     dentro_ = antes;
 }
 
@@ -126,7 +139,16 @@ FormaViga::FormaViga(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, 
             const int i = c->Index();
             c->onChange = [this, i](Control&) {
                 // The editor itself skips a change while the form is loading.
-                ConVentanaError(decl(), "TxCota_Change", [&] { tramos_.CambioCota(i); });
+                if (regla_ == ReglaTramos::AlCambiar)
+                    ConVentanaError(decl(), "TxCota_Change", [&] { CambioCota(i); });
+            };
+            c->onLostFocus = [this, i](Control&) {
+                if (regla_ == ReglaTramos::AlSalir)
+                    ConVentanaError(decl(), "TxCota_LostFocus", [&] { CambioCota(i); });
+            };
+            c->onKeyPress = [this](Control&, int& key) {
+                if (regla_ == ReglaTramos::AlSalir)
+                    FiltraTeclaNumero(key);
             };
         }
     At("CmTramos").onClick = [this](Control&) {

@@ -6,8 +6,8 @@
 // the drawing of its beam takes the proportions computed here.
 
 #include <array>
-
 #include <memory>
+#include <string>
 
 #include "base/Form.h"
 #include "frame/ElementForm.h"
@@ -34,6 +34,14 @@ std::array<TramoDibujado, 3> DibujoTramos(int n, const Tramos& t);
 // The heights of the load shapes of the three stretches as fractions of the reference height:
 // each load over the greatest (a greatest of 0 counts as 0.0001, so that no load divides by 0).
 std::array<double, 3> AlturasCargas(double q1, double q2, double q3);
+
+// A length or a load as the editor writes it back: the run time's plain text of the number,
+// without the blank of its sign ("5.5", "-2", ".5").
+std::string TextoLlano(double valor);
+
+// The key filter of the length and load fields that take only numbers: digits, the decimal
+// point or comma, the sign and the editing keys (under 32) pass; any other key is swallowed (0).
+void FiltraTeclaNumero(int& keyAscii);
 
 // The editor on a form: it reads and rewrites TxCota(1..3), shows and hides the stretches over
 // the chosen count, and keeps the last values to know when the picture must be drawn again.
@@ -74,7 +82,18 @@ protected:
     // The stretches over the chosen count hidden, as the form opens.
     void CargaPropia() override { tramos_.CambioNumero(); }
 
+    // When the stretch rules run on a length TxCota: at each change of its text (most beams),
+    // or when the focus leaves it, with its keys filtered to numbers (the beam of a frame).
+    enum class ReglaTramos { AlCambiar, AlSalir };
+    void ReglaDeTramos(ReglaTramos regla) { regla_ = regla; }
+    // The stretch rules on a change of TxCota(index); a beam with more lengths of its own
+    // extends them.
+    virtual void CambioCota(int index) { tramos_.CambioCota(index); }
+
     EditorTramos tramos_;
+
+private:
+    ReglaTramos regla_ = ReglaTramos::AlCambiar;
 };
 
 }  // namespace vardena

@@ -72,7 +72,7 @@ std::optional<Referencia> LeeReferencia(const std::string& text)
 }
 
 struct Paso {
-    enum Tipo { Pon, Pulsa, Pincha, Deja } tipo;  // --set, --press, --click, --leave
+    enum Tipo { Pon, Pulsa, Pincha, Deja, Teclea } tipo;  // --set, --press, --click, --leave, --type
     Referencia control;
     std::string valor;
     int x = 0, y = 0;  // where --click presses
@@ -130,14 +130,14 @@ bool LeeOpciones(const std::vector<std::string>& args, Opciones& o)
             if (!valor(v) || (v != "yes" && v != "no"))
                 return false;
             o.respuesta = v == "yes" ? mb::Yes : mb::No;
-        } else if (a == "--set") {
+        } else if (a == "--set" || a == "--type") {
             const size_t eq = valor(v) ? v.find('=') : std::string::npos;
             if (eq == std::string::npos)
                 return false;
             auto ref = LeeReferencia(v.substr(0, eq));
-            if (!ref)
+            if (!ref || (a == "--type" && !ref->propiedad.empty()))
                 return false;
-            o.pasos.push_back({Paso::Pon, *ref, v.substr(eq + 1)});
+            o.pasos.push_back({a == "--set" ? Paso::Pon : Paso::Teclea, *ref, v.substr(eq + 1)});
         } else if (a == "--click") {
             const size_t eq = valor(v) ? v.find('=') : std::string::npos;
             if (eq == std::string::npos)
@@ -348,6 +348,18 @@ int CmdForm(Aplicacion& app, const std::vector<std::string>& args)
         Control* c = Busca(*form, p.control, problema);
         if (!c)
             return Fail(problema);
+        if (p.tipo == Paso::Teclea) {
+            if (c->kind() != Kind::TextBox)
+                return Fail(c->Label() + " is a " + std::string(KindName(c->kind())) + ": only a text box is typed into");
+            // Each key as the user's: the field's key handler may swallow it (0) or change it;
+            // what passes goes at the end of the text, which raises the field's Change.
+            for (const char ch : p.valor) {
+                const int tecla = c->KeyPress(static_cast<unsigned char>(ch));
+                if (tecla != 0)
+                    c->SetText(c->Text() + static_cast<char>(tecla));
+            }
+            continue;
+        }
         if (p.tipo != Paso::Pon) {
             d.UltimoGuardadoRechazado.clear();
             d.UltimoErrorDatos.clear();
@@ -448,9 +460,10 @@ int CmdForms(Aplicacion& app, const std::vector<std::string>& args)
 
 Registrar form("form",
                "form WORK FORM [--title T] [--set NAME[(I)][.PROP]=VALUE]... [--press CONTROL]... "
-               "[--click PICTURE=X,Y]... [--leave FIELD]... [--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
+               "[--click PICTURE=X,Y]... [--type FIELD=KEYS]... [--leave FIELD]... [--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
                "load element form FORM of WORK without a window, choose title T in List1, set fields, press "
-               "buttons (CmdCalcular saves), click a picture at pixel X,Y, and print values or every control",
+               "buttons (CmdCalcular saves), click a picture at pixel X,Y, type keys into a field through its "
+               "key filter, leave a field, and print values or every control",
                CmdForm);
 Registrar forms("forms", "forms [--json]", "list the forms: name, catalogue code, stored controls, caption",
                 CmdForms);
