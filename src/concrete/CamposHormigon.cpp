@@ -61,13 +61,14 @@ constexpr GrupoDef kGruposVigRegHorm[] = {
 constexpr std::string_view kVigParedViga[] = {"PctViga",   "CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)",
                                               "TextDviga", "TxtPil(0)", "TxtPil(1)", "ChPilIzq",  "ChPilDer"};
 constexpr std::string_view kVigParedContiguas[] = {"ChVigIzq", "TxCota(0)", "ChVigDer", "TxCota(4)"};
-constexpr std::string_view kVigParedCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "ChkPuntual", "TxtQ(0)", "TxtQ(4)", "Check1"};
+constexpr std::string_view kVigParedCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "Check1"};
+constexpr std::string_view kVigParedPuntuales[] = {"ChkPuntual", "TxtQ(0)", "TxtQ(4)"};
 constexpr std::string_view kVigParedDatos[] = {"txtDat2"};
 constexpr std::string_view kVigParedArmado[] = {"UCArVigIzq", "UCArVigCen", "UCArVigder", "UCMallazo1", "UCMallazo2"};
 constexpr GrupoDef kGruposVigPared[] = {
     {"FrViga", 0, kVigParedViga, {}, 0},       {"FrContiguas", 0, kVigParedContiguas, {}, 0},
-    {"FrCargasViga", 0, kVigParedCargas, {}, 1}, {"FrDatosViga", 0, kVigParedDatos, {}, 1},
-    {"FrArmadoViga", 0, kVigParedArmado, {}, 2},
+    {"FrCargasViga", 0, kVigParedCargas, {}, 1}, {"FrPuntualesViga", 0, kVigParedPuntuales, {}, 1},
+    {"FrDatosViga", 0, kVigParedDatos, {}, 1},   {"FrArmadoViga", 0, kVigParedArmado, {}, 2},
 };
 
 // The stored fields of each form, in the order of its record.
@@ -540,10 +541,18 @@ std::span<const TablaForm> TablasHormigon()
              {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
              {kFr, "FrContiguas", -1, "Luz viga contigua"},
              {kFr, "FrCargasViga", -1, "Cargas"},
+             {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
              {kFr, "FrDatosViga", -1, "Flecha"},
              {kFr, "FrArmadoViga", -1, "Armado principal total y reparto por cara"},
              {kPc, "PctViga", -1, ""},
              {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+             {kTx, "txtDat2", -1, "Límite flecha 1/"},
+             {kCk, "ChkPuntual", -1, "Poner carga puntual"},
+             {kCk, "Check1", -1, "Carga aplicada en cara inferior viga"},
+             {kTx, "TxCota", -1, "Longitudes (m)"},
+             {kTx, "TxtQ", -1, "Cargas"},
+             {kTx, "TxtQ", 0, "P1"},
+             {kTx, "TxtQ", 4, "P2"},
              {kTx, "TxCota", 0, "Luz viga contigua izquierda (m)"},
              {kTx, "TxCota", 1, "Luz total (m)"},
              {kTx, "TxCota", 2, "Tramo 1 (m)"},
@@ -552,13 +561,6 @@ std::span<const TablaForm> TablasHormigon()
              {kTx, "TxtQ", 1, "Carga repartida q1"},
              {kTx, "TxtQ", 2, "Carga repartida q2"},
              {kTx, "TxtQ", 3, "Carga repartida q3"},
-             {kTx, "txtDat2", -1, "Límite flecha 1/"},
-             {kCk, "ChkPuntual", -1, "Poner carga puntual"},
-             {kCk, "Check1", -1, "Carga aplicada en cara inferior viga"},
-             {kTx, "TxCota", -1, "Longitudes (m)"},
-             {kTx, "TxtQ", -1, "Cargas"},
-             {kTx, "TxtQ", 0, "P1"},
-             {kTx, "TxtQ", 4, "P2"},
              {kTx, "TextDviga", 0, "Ancho (cm)"},
              {kTx, "TextDviga", 1, "Canto (cm)"},
              {kCk, "ChPilIzq", -1, "Pilar inferior izquierdo"},

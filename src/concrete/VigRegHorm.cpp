@@ -208,10 +208,10 @@ std::optional<Croquis> VigRegHorm::CroquisDe(const Control& picture) const
     const int elegida = VigaElegida();
     Croquis c;
     c.ancho = x0 + 4 * kVano + kVuelo + 400;
-    c.alto = y0 + 3 * kLuz + 250;
+    c.alto = y0 + 3 * kLuz + 500;
     auto x = [&](int columna) { return x0 + columna * kVano; };
     auto y = [&](int portico) { return y0 + portico * kLuz; };
-    auto texto = [&](const char* campo, int i) { return At(campo, i).Text(); };
+    auto texto = [&](const char* campo, int i) { return TextoLlano(ValComaCopy(At(campo, i).Text())); };
     const bool vueloIzq = ValComaCopy(texto("txtCotHz", 0)) > 0, vueloDer = ValComaCopy(texto("txtCotHz", 5)) > 0;
     const bool vueloFrente = ValComaCopy(texto("txtCotVert", 0)) > 0;
     // The beams of each frame: bays that the frame has solid, the others dashed.
@@ -244,14 +244,15 @@ std::optional<Croquis> VigRegHorm::CroquisDe(const Control& picture) const
         c.Texto(existe ? PapelCroquis::Cota : PapelCroquis::Ausente, {(x(v - 1) + x(v)) / 2, y(p) + 190},
                 std::to_string(i + 1));
     }
-    // The lengths along the top and across the left side.
-    const int yCota = y0 - kLuz / 2 - 220;
+    // The bays along the top, the cantilevers under the last frame (their lines are short for
+    // a text beside the bays'), the slab's bays across the left side.
+    const int yCota = y0 - kLuz / 2 - 220, yVuelos = y(3) + 330;
     if (vueloIzq)
-        c.Cota({x(0) - kVuelo, yCota}, {x(0), yCota}, texto("txtCotHz", 0));
+        c.Cota({x(0) - kVuelo, yVuelos}, {x(0), yVuelos}, texto("txtCotHz", 0));
     for (int v = 1; v <= e.vanos; ++v)
         c.Cota({x(v - 1), yCota}, {x(v), yCota}, texto("txtCotHz", v));
     if (vueloDer)
-        c.Cota({x(e.vanos), yCota}, {x(e.vanos) + kVuelo, yCota}, texto("txtCotHz", 5));
+        c.Cota({x(e.vanos), yVuelos}, {x(e.vanos) + kVuelo, yVuelos}, texto("txtCotHz", 5));
     if (vueloFrente)
         c.Cota({x0 - kVuelo - 80, y(0) - kLuz / 2}, {x0 - kVuelo - 80, y(0)}, texto("txtCotVert", 0));
     for (int p = 1; p <= e.vanosForjado; ++p)

@@ -142,8 +142,9 @@ private:
             p.drawLine(q + QPointF(-3, 3), q + QPointF(3, -3));
         const QPointF medio = (a + b) / 2;
         const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
-        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 18, 18) : QRectF(medio.x() - 9, medio.y() - 17, 18, 16);
-        p.drawText(caja, Qt::AlignCenter, texto);
+        // The text stands whole beside its line, however short the line is drawn.
+        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 48, 18) : QRectF(medio.x() - 30, medio.y() - 17, 60, 16);
+        p.drawText(caja, vertical ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter, texto);
     }
 
     const ElementForm& form_;
