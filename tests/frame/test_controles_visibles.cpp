@@ -163,7 +163,8 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmZap", "TxtQ", 10, Kind::TextBox, "Mx"},
         // "#" stands for the member's index, so that options of one array read apart.
         {"frmZap", "OpPosPil", 2, Kind::OptionButton, "Posición del pilar 2"},
-        {"frmVigRegHorm", "optViga", 8, Kind::OptionButton, "Viga 8"},
+        // The frame's beams are numbered from 1, as the plan beside them numbers them.
+        {"frmVigRegHorm", "optViga", 8, Kind::OptionButton, "Viga 9"},
         {"frmMuroH", "TxCotaAncho", -1, Kind::TextBox, "Ancho de la zapata (cm)"},
         {"frmMuroH", "UCArmMuro", 15, Kind::UCZapatas, "Armadura del muro"},
         {"frmPilHorm", "OpPosPil", 0, Kind::OptionButton, "esquina"},
