@@ -108,6 +108,7 @@ private:
         case PapelCroquis::Terreno: return QColor("#e6d8bd");
         case PapelCroquis::Hormigon: return QColor("#c3cad4");
         case PapelCroquis::Hueco: return fondo;
+        case PapelCroquis::Resalte: return QColor(173, 205, 236, 170);
         default: return Qt::NoBrush;
         }
     }
@@ -117,6 +118,7 @@ private:
         case PapelCroquis::Superficie: return QPen(QColor("#5b4a2a"), 2);
         case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
+        case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 2);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }
@@ -443,8 +445,11 @@ QWidget* VentanaElemento::CreaPanel()
 
 void VentanaElemento::Actualiza()
 {
-    for (auto& [caja, grupo] : grupos_)
+    for (auto& [caja, grupo] : grupos_) {
         caja->setVisible(GrupoVisible(grupo));
+        // A panel that opens over the form as a dialog disables the frames it covers.
+        caja->setEnabled(std::all_of(grupo.marcos.begin(), grupo.marcos.end(), [](const Control* m) { return m->Enabled(); }));
+    }
     for (auto& [w, c] : siguen_)
         w->setVisible(c->Visible());
     const Control* rtb = form_->Find("RichTextBox1");

@@ -22,6 +22,8 @@ enum class PapelCroquis {
     Superficie,  // the ground's surface line
     Cota,        // a dimension
     Carga,       // a load on the ground
+    Resalte,     // a part of a plan set off from the rest: a drop panel, a chosen band of a slab
+    Armadura,    // a reinforcing bar
 };
 
 enum class FiguraCroquis {
