@@ -64,7 +64,11 @@ void Abaco::PresentaPosicion()
     const std::optional<PosicionAbaco> p = Posicion();
     for (Control* pt : Members("Ptpilar"))
         pt->SetVisible(p && pt->Index() == static_cast<int>(*p));
-    // The distances of the chosen position only; the enclosure stands on the façade.
+    // The distances of the chosen position only, in its frame; the enclosure stands on the façade.
+    constexpr const char* kMarcos[] = {"UCframeLucesCen", "UCframeLucesBor", "UCframeLucesEsq"};
+    for (int i = 0; i < 3; ++i)
+        if (Control* marco = Find(kMarcos[i]))
+            marco->SetVisible(p && i == static_cast<int>(*p));
     for (Control* le : Members("LePil"))
         le->SetVisible(false);
     if (p)
@@ -172,7 +176,7 @@ std::string Abaco::ResumenCalculo() const
         return {};
     return "the column line's load was estimated for the check: N = " + Formato00(cargas_.n) + " t on " +
            Formato00(cargas_.area) + " m2, Mx = " + Formato00(cargas_.mx) + ", My = " + Formato00(cargas_.my) +
-           " m·t; no field changes";
+           " m·t; none of it is written to the record";
 }
 
 // ---- Sketches ----
@@ -230,6 +234,8 @@ std::optional<Croquis> Abaco::CroquisDe(const Control& picture) const
     c.Cota({x1 - 60, y0}, {x1 - 60, oy}, "a3");
     c.Cota({x1 - 60, oy}, {x1 - 60, y1}, "a4");
     c.Cota({std::max(ox - mx, x0), abajo}, {std::min(ox + mx, x1), abajo}, Formato00(metros("AbacoX")));
+    // A plan at least this much wider than high.
+    c.Apaisa(1.8);
     return c;
 }
 

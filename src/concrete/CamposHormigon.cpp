@@ -262,7 +262,9 @@ static_assert(CamposBienFormados(kCamposFrmEscHorm));
 // band shows, with the band drawn along its span; the slab's own data (the waffle slab's panel
 // opens over the form); the results panel that opens after a save, a frame a band.
 constexpr std::string_view kLosaPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "PctFRPlan"};
-constexpr std::string_view kLosaLuces[] = {"txtForj(5)", "txtForj(6)", "txtForj(7)", "txtForj(8)", "txtForj(9)", "txtForj(10)", "txtForj(11)", "txtForj(12)", "txtForj(13)"};
+constexpr std::string_view kLosaLucesCentro[] = {"txtForj(5)", "txtForj(6)"};
+constexpr std::string_view kLosaLucesBorde[] = {"txtForj(7)", "txtForj(8)", "txtForj(9)"};
+constexpr std::string_view kLosaLucesEsquina[] = {"txtForj(10)", "txtForj(11)", "txtForj(12)", "txtForj(13)"};
 constexpr std::string_view kLosaCerramiento[] = {"LbP1(0)", "TxtQ(0)"};
 constexpr std::string_view kLosaDirX[] = {"CmBanda(0)", "CmBanda(1)"};
 constexpr std::string_view kLosaDirY[] = {"CmBanda(2)", "CmBanda(3)"};
@@ -294,14 +296,15 @@ consteval std::array<GrupoDef, N + M> UneGrupos(const GrupoDef (&a)[N], const Gr
 }
 constexpr GrupoDef kGruposLosa[] = {
     {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0}, {"UCframePos", 0, kLosaPosicion, "Frm1", 0},
-    {"UCframeLuces", 0, kLosaLuces, "Frm1", 0},              {"LbCer", 0, kLosaCerramiento, "Frm1", 0},
+    {"UCframeLucesCen", 0, kLosaLucesCentro, "Frm1", 0},     {"UCframeLucesBor", 0, kLosaLucesBorde, "Frm1", 0},
+    {"UCframeLucesEsq", 0, kLosaLucesEsquina, "Frm1", 0},    {"LbCer", 0, kLosaCerramiento, "Frm1", 0},
     {"Frame1", 0, kLosaDirX, "Picture1", 1},                 {"Frame22", 0, kLosaDirY, "Picture1", 1},
     {"Picture1", 0, kLosaBanda, "Frm1", 1},                  {"FrBanda0", 0, kLosaBanda0, "Picture1", 1},
     {"FrBanda1", 0, kLosaBanda1, "Picture1", 1},             {"FrBanda2", 0, kLosaBanda2, "Picture1", 1},
     {"FrBanda3", 0, kLosaBanda3, "Picture1", 1},             {"FrMallazo", 0, kLosaMallazo, "Frm1", 2},
     {"UCfrRes", 0, kLosaResultados, "", 2},                  {"FrRes0", 0, kLosaRes0, "UCfrRes", 2},
     {"FrRes1", 0, kLosaRes1, "UCfrRes", 2},                  {"FrRes2", 0, kLosaRes2, "UCfrRes", 2},
-    {"FrRes3", 0, kLosaRes3, "UCfrRes", 2},
+    {"FrRes3", 0, kLosaRes3, "UCfrRes", 2},                  {"UCframe2", 0, kCamposResultados, "", 2},
 };
 constexpr GrupoDef kGruposForjRetPropios[] = {{"", kMsgGrupoElemento, kRetNivel, "Frm1", 0}, {"UCfrFor", 0, kRetForjado, "", 2}};
 constexpr GrupoDef kGruposForMaciPropios[] = {{"", kMsgGrupoElemento, kMaciNivel, "Frm1", 0}};
@@ -312,7 +315,10 @@ constexpr auto kGruposForMaci = UneGrupos(kGruposForMaciPropios, kGruposLosa);
 // enclosure; the column and the panel with their bars, the punching rows; the ribs around it and
 // the slab's panel that opens over the form.
 constexpr std::string_view kAbacoNivel[] = {"txtTitulo", "CmbPlanta", "Command1"};
-constexpr std::string_view kAbacoPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar", "LePil"};
+constexpr std::string_view kAbacoPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
+constexpr std::string_view kAbacoLucesCentro[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
+constexpr std::string_view kAbacoLucesBorde[] = {"LePil(9)", "LePil(8)", "LePil(11)", "LePil(10)"};
+constexpr std::string_view kAbacoLucesEsquina[] = {"LePil(7)", "LePil(5)", "LePil(4)", "LePil(6)"};
 constexpr std::string_view kAbacoCerramiento[] = {"LbP1(0)", "TxtQ(0)"};
 constexpr std::string_view kAbacoDimensiones[] = {"PilX",   "PilY",    "AbacoX", "AbacoY",  "ChX(0)", "ArmX(0)",
                                                   "ChX(1)", "ArmX(1)", "ChY(0)", "ArmY(0)", "ChY(1)", "ArmY(1)"};
@@ -324,9 +330,12 @@ constexpr std::string_view kAbacoNervios[] = {"UCArVig(0)", "UCArVig(1)",   "ChM
 constexpr std::string_view kAbacoForjado[] = {"cmbTipoFor", "PtFor", "txtForj", "UCMall", "Command3"};
 constexpr GrupoDef kGruposAbaco[] = {
     {"", kMsgGrupoElemento, kAbacoNivel, "Frm1", 0}, {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0},
-    {"Label2", 0, kAbacoPosicion, "Frm1", 0},        {"Label7", 0, kAbacoCerramiento, "Frm1", 0},
+    {"Label2", 0, kAbacoPosicion, "Frm1", 0},        {"UCframeLucesCen", 0, kAbacoLucesCentro, "Frm1", 0},
+    {"UCframeLucesBor", 0, kAbacoLucesBorde, "Frm1", 0}, {"UCframeLucesEsq", 0, kAbacoLucesEsquina, "Frm1", 0},
+    {"Label7", 0, kAbacoCerramiento, "Frm1", 0},
     {"Picture1", 0, kAbacoDimensiones, "Frm1", 1},   {"FrPunz", 0, kAbacoPunzonamiento, "Frm1", 1},
     {"frmNervios", 0, kAbacoNervios, "Frm1", 2},     {"UCfrFor", 0, kAbacoForjado, "", 2},
+    {"UCframe2", 0, kCamposResultados, "", 2},
 };
 
 // The corbel's window: its kind and casting joint; its sketch beside its sizes; the loads with
@@ -343,6 +352,7 @@ constexpr GrupoDef kGruposMensCorta[] = {
     {"FrTipologia", 0, kMensulaTipo, "Frm1", 0},        {"FrHormigonado", 0, kMensulaHormigonado, "Frm1", 0},
     {"FrCotas", 0, kMensulaCotas, "Frm1", 1},           {"FrCargas", 0, kMensulaCargas, "Frm1", 1},
     {"FrArmado", 0, kMensulaArmado, "Frm1", 2},         {"FrArmaduras", 0, kMensulaArmaduras, "", 2},
+    {"UCframe2", 0, kCamposResultados, "", 2},
 };
 
 // The stair's window: its exposure, kind, slab and landings, and loads; the kind chosen, its
@@ -352,16 +362,25 @@ constexpr std::string_view kEscTipo[] = {"OptLosa(0)", "OptLosa(1)", "OptLosa(2)
 constexpr std::string_view kEscDimensiones[] = {"TxtCanto(0)", "txtAncho(0)", "Label3",      "TxtCanto(1)",
                                                 "txtAncho(1)", "Label7",      "TxtCanto(2)", "txtAncho(2)"};
 constexpr std::string_view kEscCargas[] = {"txtSobrUso", "txtSolado", "Label10"};
-constexpr std::string_view kEscH1[] = {"PictH1", "TxCotaH1", "OptH1izq", "OptH1der", "UCNumDiamH1"};
-constexpr std::string_view kEscDesc[] = {"PictHD", "TxCotaDesc", "OptDApoIzq", "OptDApoDer", "UCNumDiamDesc"};
-constexpr std::string_view kEscH2[] = {"PictH2", "TxCotaH2", "OptH2izqI", "OptH2izqS", "OptH2der", "UCNumDiamH2"};
-constexpr std::string_view kEscRampa[] = {"PictRampa", "TxCotaRampa", "LbAstExpl", "OptRampaApoIzq", "OptRampaApoDer", "UCNumDiamRampa"};
+constexpr std::string_view kEscH1[] = {"PictH1", "TxCotaH1"};
+constexpr std::string_view kEscDesc[] = {"PictHD", "TxCotaDesc"};
+constexpr std::string_view kEscH2[] = {"PictH2", "TxCotaH2"};
+constexpr std::string_view kEscRampa[] = {"PictRampa", "TxCotaRampa", "LbAstExpl"};
+constexpr std::string_view kEscH1Armado[] = {"OptH1izq", "OptH1der", "UCNumDiamH1"};
+constexpr std::string_view kEscDescArmado[] = {"OptDApoIzq", "OptDApoDer", "UCNumDiamDesc"};
+constexpr std::string_view kEscH2Armado[] = {"OptH2izqI", "OptH2izqS", "OptH2der", "UCNumDiamH2"};
+constexpr std::string_view kEscRampaArmado[] = {"OptRampaApoIzq", "OptRampaApoDer", "UCNumDiamRampa"};
+// The heading of the ends and bars of the kind chosen.
+constexpr int kMsgApoyosYArmado = 1664;
 constexpr GrupoDef kGruposEscHorm[] = {
     {"", kMsgGrupoElemento, kCamposIdentidad, "Frm1", 0}, {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0},
     {"FrExposicion", 0, kEscExposicion, "Frm1", 0},     {"FrTipoLosa", 0, kEscTipo, "Frm1", 0},
     {"FrDimensiones", 0, kEscDimensiones, "Frm1", 0},   {"FrCargasLosa", 0, kEscCargas, "Frm1", 0},
     {"UCframeH1", 0, kEscH1, "Frm1", 1},                {"UCframeDesc", 0, kEscDesc, "Frm1", 1},
     {"UCframeH2", 0, kEscH2, "Frm1", 1},                {"UCframeRampa", 0, kEscRampa, "Frm1", 1},
+    {"", kMsgApoyosYArmado, kEscH1Armado, "UCframeH1", 2},       {"", kMsgApoyosYArmado, kEscDescArmado, "UCframeDesc", 2},
+    {"", kMsgApoyosYArmado, kEscH2Armado, "UCframeH2", 2},       {"", kMsgApoyosYArmado, kEscRampaArmado, "UCframeRampa", 2},
+    {"UCframe2", 0, kCamposResultados, "", 2},
 };
 
 }  // namespace
@@ -535,10 +554,13 @@ std::span<const TablaForm> TablasHormigon()
              {kPc, "Ptpilar", 1, ""},
              {kPc, "Ptpilar", 2, ""},
              {kPc, "PtAbaco", -1, ""},
+             {kFr, "UCframeLucesCen", -1, "Distancias en metros"},
+             {kFr, "UCframeLucesBor", -1, "Distancias en metros"},
+             {kFr, "UCframeLucesEsq", -1, "Distancias en metros"},
              {kPc, "ImgPilar", -1, ""},
-             {kTx, "LePil", 0, "a1 (m)"}, {kTx, "LePil", 1, "a2 (m)"}, {kTx, "LePil", 2, "a3 (m)"}, {kTx, "LePil", 3, "a4 (m)"},
-             {kTx, "LePil", 9, "a1 (m)"}, {kTx, "LePil", 8, "a2 (m)"}, {kTx, "LePil", 11, "a3 (m)"}, {kTx, "LePil", 10, "a4 (m)"},
-             {kTx, "LePil", 7, "a1 (m)"}, {kTx, "LePil", 5, "a2 (m)"}, {kTx, "LePil", 4, "a3 (m)"}, {kTx, "LePil", 6, "a4 (m)"},
+             {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
+             {kTx, "LePil", 9, "a1"}, {kTx, "LePil", 8, "a2"}, {kTx, "LePil", 11, "a3"}, {kTx, "LePil", 10, "a4"},
+             {kTx, "LePil", 7, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 4, "a3"}, {kTx, "LePil", 6, "a4"},
              {kFr, "Picture1", -1, "Dimensiones y armado ábacos"},
              {kTx, "PilX", -1, "Lado pilar X (m)"},
              {kTx, "PilY", -1, "Lado pilar Y (m)"},
@@ -686,7 +708,12 @@ std::span<const TablaForm> TablasHormigon()
              {kOp, "OptLosa", 2, "Escalera 2 tramos"},
              {kOp, "OptLosa", 3, "Rampa"},
              {kFr, "FrDimensiones", -1, "Dimensiones de la losa"},
-             {kTx, "TxtCanto", -1, "Canto (m)"},
+             {kTx, "TxtCanto", 0, "Canto losa (m)"},
+             {kTx, "TxtCanto", 1, "Canto descansillo 1 (m)"},
+             {kTx, "TxtCanto", 2, "Canto descansillo 2 (m)"},
+             {kTx, "txtAncho", 0, "Ancho losa (m)"},
+             {kTx, "txtAncho", 1, "Ancho descansillo 1 (m)"},
+             {kTx, "txtAncho", 2, "Ancho descansillo 2 (m)"},
              {kLb, "Label3", -1, "Descansillo 1:"},
              {kLb, "Label7", -1, "Descansillo 2:"},
              {kFr, "FrCargasLosa", -1, "Cargas sobre la losa"},

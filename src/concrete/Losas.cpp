@@ -18,6 +18,12 @@ constexpr int kMsgPrimeraBanda = 1660;
 constexpr int kIzquierdaResultados = 4425;
 constexpr int kIzquierdaForjado = 3315;
 
+// A plan is drawn at least this much wider than high.
+constexpr double kProporcionPlano = 1.8;
+
+// The frame of each position's spans, by the index of OpPosPil.
+constexpr const char* kMarcosLuces[] = {"UCframeLucesCen", "UCframeLucesBor", "UCframeLucesEsq"};
+
 constexpr int kCamposCentro[] = {5, 6};
 constexpr int kCamposBorde[] = {7, 8, 9};
 constexpr int kCamposEsquina[] = {10, 11, 12, 13};
@@ -142,7 +148,10 @@ void LosaBandas::PresentaPosicion()
     const std::optional<PosicionPanel> p = Posicion();
     for (Control* pt : Members("PctFRPlan"))
         pt->SetVisible(p && pt->Index() == static_cast<int>(*p));
-    // The spans and cantilevers of the chosen position only.
+    // The spans and cantilevers of the chosen position only, in its frame.
+    for (int i = 0; i < 3; ++i)
+        if (Control* marco = Find(kMarcosLuces[i]))
+            marco->SetVisible(p && i == static_cast<int>(*p));
     for (int i = 5; i <= 13; ++i)
         At("txtForj", i).SetVisible(false);
     if (p)
@@ -235,7 +244,7 @@ std::optional<Croquis> LosaBandas::CroquisDe(const Control& picture) const
         constexpr int kAncho = 6000, x0 = 600, x1 = 5400, yLosa = 700, canto = 180;
         Croquis c;
         c.ancho = kAncho;
-        c.alto = 1500;
+        c.alto = 1650;
         c.Rectangulo(PapelCroquis::Hormigon, 150, yLosa, kAncho - 150, yLosa + canto);
         for (int x : {x0, x1})
             c.Rectangulo(PapelCroquis::Hormigon, x - 90, yLosa + canto, x + 90, yLosa + canto + 350);
@@ -264,12 +273,12 @@ std::optional<Croquis> LosaBandas::CroquisDe(const Control& picture) const
                 barra(i + 1, std::max(x - m2, 150), std::min(x + m2, kAncho - 150), arriba + 45, yLosa - 130);
             }
         }
-        barra(base + 2, x0 - 100, x1 + 100, abajo, yLosa + canto + 480);
+        barra(base + 2, x0 - 100, x1 + 100, abajo, yLosa + canto + 170);
         if (At("ChArV", base + 3).CheckValue() != 0) {
             const int m = largo(base + 3, 0.6) / 2;
-            barra(base + 3, (x0 + x1) / 2 - m, (x0 + x1) / 2 + m, abajo - 45, yLosa + canto + 650);
+            barra(base + 3, (x0 + x1) / 2 - m, (x0 + x1) / 2 + m, abajo - 45, yLosa + canto + 370);
         }
-        c.Cota({x0, c.alto - 120}, {x1, c.alto - 120}, Formato00(enX ? l.lx : l.ly));
+        c.Cota({x0, c.alto - 200}, {x1, c.alto - 200}, Formato00(enX ? l.lx : l.ly));
         return c;
     }
     if (picture.Name() != "PctFRPlan" || picture.Index() < 0 || picture.Index() > 2)
@@ -326,6 +335,7 @@ std::optional<Croquis> LosaBandas::CroquisDe(const Control& picture) const
         c.Cota({xa, c.alto - kMargen / 2}, {ox, c.alto - kMargen / 2}, Formato00(l.vueloX));
     if (fachadaY && aba > 0)
         c.Cota({c.ancho - kMargen / 2, oy + ly}, {c.ancho - kMargen / 2, yb}, Formato00(l.vueloY));
+    c.Apaisa(kProporcionPlano);
     return c;
 }
 

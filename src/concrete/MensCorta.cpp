@@ -180,6 +180,8 @@ std::optional<Croquis> MensCorta::CroquisDe(const Control& picture) const
     c.Cota({xf, yCota}, {xCarga, yCota}, "a");
     c.Cota({xf + vuelo + 120, yTop}, {xf + vuelo + 120, yTop + h1}, At("TxCota", 1).Text());
     c.Cota({xc - 120, yTop}, {xc - 120, yTop + h0}, At("TxCota", 0).Text());
+    // The column's height must not make the picture taller than the window's bands.
+    c.Apaisa(1.3);
     return c;
 }
 

@@ -30,7 +30,7 @@ public:
     DibujoCroquis(const ElementForm& form, const Control& picture) : form_(form), picture_(picture)
     {
         setMinimumSize(140, 105);
-        QSizePolicy politica(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        QSizePolicy politica(QSizePolicy::Expanding, QSizePolicy::Preferred);
         politica.setHeightForWidth(true);
         setSizePolicy(politica);
         setObjectName(Q(picture.Label()));
@@ -144,7 +144,7 @@ private:
         const QPointF medio = (a + b) / 2;
         const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
         const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 18, 18) : QRectF(medio.x() - 9, medio.y() - 17, 18, 16);
-        p.drawText(caja, Qt::AlignCenter, texto);
+        p.drawText(caja, Qt::AlignCenter | Qt::TextDontClip, texto);
     }
 
     const ElementForm& form_;

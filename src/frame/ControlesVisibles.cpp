@@ -142,6 +142,9 @@ const std::vector<ControlVisible>& EtiquetasLosaBandas()
                 t.push_back("Refuerzo " + lugar);
                 t.push_back(std::string(1, static_cast<char>(std::toupper(static_cast<unsigned char>(lugar[0])))) +
                             lugar.substr(1));
+                t.push_back("Longitud " + lugar + " (m)");
+                t.push_back("Longitud refuerzo " + lugar + " (m)");
+                t.push_back("Con refuerzo " + lugar);
             }
         return t;
     }();
@@ -160,7 +163,6 @@ const std::vector<ControlVisible>& EtiquetasLosaBandas()
             {kTx, "txtForj", 11, "Ly (m)"},
             {kTx, "txtForj", 12, "Vuelo X (m)"},
             {kTx, "txtForj", 13, "Vuelo Y (m)"},
-            {kTx, "TxLv", -1, "Longitud (m)"},
             {kTx, "TxtQ", 0, "Carga cerramiento (sin mayorar)"},
             {kLb, "LbCer", -1, "Carga cerramiento (sin mayorar)"},
             {kLb, "LbP1", 0, "P="},
@@ -173,7 +175,9 @@ const std::vector<ControlVisible>& EtiquetasLosaBandas()
             {kPc, "PctFRPlan", 0, ""},
             {kPc, "PctFRPlan", 1, ""},
             {kPc, "PctFRPlan", 2, ""},
-            {kFr, "UCframeLuces", -1, "Longitudes en metros"},
+            {kFr, "UCframeLucesCen", -1, "Longitudes en metros"},
+            {kFr, "UCframeLucesBor", -1, "Longitudes en metros"},
+            {kFr, "UCframeLucesEsq", -1, "Longitudes en metros"},
             {kFr, "Picture1", -1, "Armado de las bandas"},
             {kFr, "Frame1", -1, "Dir. X"},
             {kFr, "Frame22", -1, "Dir. Y"},
@@ -197,12 +201,14 @@ const std::vector<ControlVisible>& EtiquetasLosaBandas()
         };
         for (int b = 0; b < 4; ++b)
             for (int p = 0; p < 3; ++p) {
-                const size_t k = static_cast<size_t>(3 * (3 * b + p));
+                const size_t k = static_cast<size_t>(6 * (3 * b + p));
                 const int i = 6 * b + 2 * p;
                 f.push_back({kNd, "UCArVig", i, textos[k]});
                 f.push_back({kNd, "UCArVig", i + 1, textos[k + 1]});
-                f.push_back({kCk, "ChArV", i + 1, textos[k + 1]});
+                f.push_back({kCk, "ChArV", i + 1, textos[k + 5]});
                 f.push_back({kTx, "txtMf", 3 * b + p, textos[k + 2]});
+                f.push_back({kTx, "TxLv", i, textos[k + 3]});
+                f.push_back({kTx, "TxLv", i + 1, textos[k + 4]});
             }
         return f;
     }();

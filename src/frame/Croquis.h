@@ -53,6 +53,9 @@ struct Croquis {
     void Cota(PuntoCroquis a, PuntoCroquis b, std::string texto);
     void Flecha(PapelCroquis papel, PuntoCroquis desde, PuntoCroquis hasta);
     void Texto(PapelCroquis papel, PuntoCroquis en, std::string texto);
+    // Widens the picture to at least `proporcion` times its height, the drawing centred in it,
+    // so that a plan that is nearly square takes a band of the window as low as the others.
+    void Apaisa(double proporcion);
 };
 
 }  // namespace vardena
