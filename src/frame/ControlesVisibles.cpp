@@ -207,8 +207,11 @@ const std::vector<ControlVisible>& EtiquetasLosaBandas()
                 f.push_back({kNd, "UCArVig", i + 1, textos[k + 1]});
                 f.push_back({kCk, "ChArV", i + 1, textos[k + 5]});
                 f.push_back({kTx, "txtMf", 3 * b + p, textos[k + 2]});
-                f.push_back({kTx, "TxLv", i, textos[k + 3]});
-                f.push_back({kTx, "TxLv", i + 1, textos[k + 4]});
+                // The bars over the far support have no lengths of their own.
+                if (p < 2) {
+                    f.push_back({kTx, "TxLv", i, textos[k + 3]});
+                    f.push_back({kTx, "TxLv", i + 1, textos[k + 4]});
+                }
             }
         return f;
     }();
