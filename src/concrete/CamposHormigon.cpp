@@ -295,7 +295,7 @@ consteval std::array<GrupoDef, N + M> UneGrupos(const GrupoDef (&a)[N], const Gr
     return out;
 }
 constexpr GrupoDef kGruposLosa[] = {
-    {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0}, {"UCframePos", 0, kLosaPosicion, "Frm1", 0},
+    {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 2}, {"UCframePos", 0, kLosaPosicion, "Frm1", 0},
     {"UCframeLucesCen", 0, kLosaLucesCentro, "Frm1", 0},     {"UCframeLucesBor", 0, kLosaLucesBorde, "Frm1", 0},
     {"UCframeLucesEsq", 0, kLosaLucesEsquina, "Frm1", 0},    {"LbCer", 0, kLosaCerramiento, "Frm1", 0},
     {"Frame1", 0, kLosaDirX, "Picture1", 1},                 {"Frame22", 0, kLosaDirY, "Picture1", 1},

@@ -267,10 +267,10 @@ std::optional<Croquis> LosaBandas::CroquisDe(const Control& picture) const
         for (int lado = 0; lado < 2; ++lado) {
             const int i = base + (lado == 0 ? 0 : 4), x = lado == 0 ? x0 : x1;
             const int mitad = largo(i, 0.3) / 2;
-            barra(i, std::max(x - mitad, 150), std::min(x + mitad, kAncho - 150), arriba, yLosa - 300);
+            barra(i, std::max(x - mitad, 150), std::min(x + mitad, kAncho - 150), arriba, yLosa - 450);
             if (At("ChArV", i + 1).CheckValue() != 0) {
                 const int m2 = largo(i + 1, 0.2) / 2;
-                barra(i + 1, std::max(x - m2, 150), std::min(x + m2, kAncho - 150), arriba + 45, yLosa - 130);
+                barra(i + 1, std::max(x - m2, 150), std::min(x + m2, kAncho - 150), arriba + 45, yLosa - 170);
             }
         }
         barra(base + 2, x0 - 100, x1 + 100, abajo, yLosa + canto + 170);
