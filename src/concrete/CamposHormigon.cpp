@@ -1,6 +1,12 @@
 // Stored fields of the concrete element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include <array>
+
+#include "concrete/Abaco.h"
+#include "concrete/EscHorm.h"
+#include "concrete/Losas.h"
+#include "concrete/MensCorta.h"
 #include "concrete/PilHorm.h"
 #include "concrete/VigHorm.h"
 #include "concrete/VigPared.h"
@@ -20,6 +26,9 @@ constexpr Valor kRecubYPanelCentral[] = {{"CmbRecub", {}, 3}, {"OpPosPil", {{0, 
 constexpr Valor kMinimosForjRet[] = {{"txtForj", {{0, 3}}, 0}, {"txtForj", {{5, 8}, {10, 10}, {11, 11}}, 0.5}, {"txtForj", {{9, 9}, {12, 12}, {13, 13}}, 0.1}};
 constexpr Valor kMinimosForMaci[] = {{"TxtCanto", {}, 0}, {"txtForj", {{5, 8}, {10, 10}, {11, 11}}, 0.5}, {"txtForj", {{9, 9}, {12, 12}, {13, 13}}, 0.1}};
 constexpr Valor kMinimosAbaco[] = {{"LePil", {{0, 0}, {9, 9}, {7, 7}}, 0.5}, {"PilX", {}, 0.2}, {"PilY", {}, 0.2}, {"AbacoX", {}, 0.4}, {"AbacoY", {}, 0.4}};
+// A new corbel is a plain one, a new stair a one-flight stair: each window opens on a kind.
+constexpr Valor kRecubYMensulaSimple[] = {{"CmbRecub", {}, 3}, {"OpTipo", {{0, 0}}, 1}};
+constexpr Valor kRecubYTramo[] = {{"CmbRecub", {}, 3}, {"OptLosa", {{0, 0}}, 1}};
 constexpr Valor kMinimosMensCorta[] = {{"TxCota", {{0, 6}}, 0}};
 constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {{0, 4}}, 0}, {"TxCotaH2", {{0, 4}}, 0}, {"TxCotaRampa", {{0, 0}}, 0}};
 
@@ -281,6 +290,132 @@ constexpr CampoDef kCamposFrmEscHorm[] = {
 };
 static_assert(CamposBienFormados(kCamposFrmEscHorm));
 
+// The two-way slabs' windows: the panel's level and partition, its position with the plan of that
+// position and its spans; the bands, each band's bars in a frame of its own that only the chosen
+// band shows, with the band drawn along its span; the slab's own data (the waffle slab's panel
+// opens over the form); the results panel that opens after a save, a frame a band.
+constexpr std::string_view kLosaPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "PctFRPlan"};
+constexpr std::string_view kLosaLucesCentro[] = {"txtForj(5)", "txtForj(6)"};
+constexpr std::string_view kLosaLucesBorde[] = {"txtForj(7)", "txtForj(8)", "txtForj(9)"};
+constexpr std::string_view kLosaLucesEsquina[] = {"txtForj(10)", "txtForj(11)", "txtForj(12)", "txtForj(13)"};
+constexpr std::string_view kLosaCerramiento[] = {"LbP1(0)", "TxtQ(0)"};
+constexpr std::string_view kLosaDirX[] = {"CmBanda(0)", "CmBanda(1)"};
+constexpr std::string_view kLosaDirY[] = {"CmBanda(2)", "CmBanda(3)"};
+constexpr std::string_view kLosaBanda[] = {"LbBAnda", "PctViga"};
+constexpr std::string_view kLosaBanda0[] = {"UCArVig(0)", "TxLv(0)", "ChArV(1)", "UCArVig(1)", "TxLv(1)", "UCArVig(2)", "TxLv(2)", "ChArV(3)", "UCArVig(3)", "TxLv(3)", "UCArVig(4)", "TxLv(4)", "ChArV(5)", "UCArVig(5)", "TxLv(5)"};
+constexpr std::string_view kLosaBanda1[] = {"UCArVig(6)", "TxLv(6)", "ChArV(7)", "UCArVig(7)", "TxLv(7)", "UCArVig(8)", "TxLv(8)", "ChArV(9)", "UCArVig(9)", "TxLv(9)", "UCArVig(10)", "TxLv(10)", "ChArV(11)", "UCArVig(11)", "TxLv(11)"};
+constexpr std::string_view kLosaBanda2[] = {"UCArVig(12)", "TxLv(12)", "ChArV(13)", "UCArVig(13)", "TxLv(13)", "UCArVig(14)", "TxLv(14)", "ChArV(15)", "UCArVig(15)", "TxLv(15)", "UCArVig(16)", "TxLv(16)", "ChArV(17)", "UCArVig(17)", "TxLv(17)"};
+constexpr std::string_view kLosaBanda3[] = {"UCArVig(18)", "TxLv(18)", "ChArV(19)", "UCArVig(19)", "TxLv(19)", "UCArVig(20)", "TxLv(20)", "ChArV(21)", "UCArVig(21)", "TxLv(21)", "UCArVig(22)", "TxLv(22)", "ChArV(23)", "UCArVig(23)", "TxLv(23)"};
+constexpr std::string_view kLosaMallazo[] = {"UCMall", "LbMall"};
+constexpr std::string_view kLosaResultados[] = {"Command2"};
+constexpr std::string_view kLosaRes0[] = {"txtMf(0)", "txtMf(1)", "txtMf(2)"};
+constexpr std::string_view kLosaRes1[] = {"txtMf(3)", "txtMf(4)", "txtMf(5)"};
+constexpr std::string_view kLosaRes2[] = {"txtMf(6)", "txtMf(7)", "txtMf(8)"};
+constexpr std::string_view kLosaRes3[] = {"txtMf(9)", "txtMf(10)", "txtMf(11)"};
+constexpr std::string_view kRetNivel[] = {"txtTitulo", "CmbPlanta", "Combo1", "Command1"};
+constexpr std::string_view kRetForjado[] = {"cmbTipoFor", "PtFor",      "txtForj(0)", "txtForj(1)", "txtForj(2)",
+                                            "txtForj(3)", "txtForj(4)", "OpAncho",    "Command3"};
+constexpr std::string_view kMaciNivel[] = {"txtTitulo", "CmbPlanta", "Combo1", "TxtCanto"};
+// The groups of a window: its own, then those it shares with its siblings.
+template <size_t N, size_t M>
+consteval std::array<GrupoDef, N + M> UneGrupos(const GrupoDef (&a)[N], const GrupoDef (&b)[M])
+{
+    std::array<GrupoDef, N + M> out{};
+    for (size_t i = 0; i < N; ++i)
+        out[i] = a[i];
+    for (size_t i = 0; i < M; ++i)
+        out[N + i] = b[i];
+    return out;
+}
+constexpr GrupoDef kGruposLosa[] = {
+    {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 2}, {"UCframePos", 0, kLosaPosicion, "Frm1", 0},
+    {"UCframeLucesCen", 0, kLosaLucesCentro, "Frm1", 0},     {"UCframeLucesBor", 0, kLosaLucesBorde, "Frm1", 0},
+    {"UCframeLucesEsq", 0, kLosaLucesEsquina, "Frm1", 0},    {"LbCer", 0, kLosaCerramiento, "Frm1", 0},
+    {"Frame1", 0, kLosaDirX, "Picture1", 1},                 {"Frame22", 0, kLosaDirY, "Picture1", 1},
+    {"Picture1", 0, kLosaBanda, "Frm1", 1},                  {"FrBanda0", 0, kLosaBanda0, "Picture1", 1},
+    {"FrBanda1", 0, kLosaBanda1, "Picture1", 1},             {"FrBanda2", 0, kLosaBanda2, "Picture1", 1},
+    {"FrBanda3", 0, kLosaBanda3, "Picture1", 1},             {"FrMallazo", 0, kLosaMallazo, "Frm1", 2},
+    {"UCfrRes", 0, kLosaResultados, "", 2},                  {"FrRes0", 0, kLosaRes0, "UCfrRes", 2},
+    {"FrRes1", 0, kLosaRes1, "UCfrRes", 2},                  {"FrRes2", 0, kLosaRes2, "UCfrRes", 2},
+    {"FrRes3", 0, kLosaRes3, "UCfrRes", 2},                  {"UCframe2", 0, kCamposResultados, "", 2},
+};
+constexpr GrupoDef kGruposForjRetPropios[] = {{"", kMsgGrupoElemento, kRetNivel, "Frm1", 0}, {"UCfrFor", 0, kRetForjado, "", 2}};
+constexpr GrupoDef kGruposForMaciPropios[] = {{"", kMsgGrupoElemento, kMaciNivel, "Frm1", 0}};
+constexpr auto kGruposForjRet = UneGrupos(kGruposForjRetPropios, kGruposLosa);
+constexpr auto kGruposForMaci = UneGrupos(kGruposForMaciPropios, kGruposLosa);
+
+// The drop panel's window: the column's level and position with its plan and distances, the
+// enclosure; the column and the panel with their bars, the punching rows; the ribs around it and
+// the slab's panel that opens over the form.
+constexpr std::string_view kAbacoNivel[] = {"txtTitulo", "CmbPlanta", "Command1"};
+constexpr std::string_view kAbacoPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
+constexpr std::string_view kAbacoLucesCentro[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
+constexpr std::string_view kAbacoLucesBorde[] = {"LePil(9)", "LePil(8)", "LePil(11)", "LePil(10)"};
+constexpr std::string_view kAbacoLucesEsquina[] = {"LePil(7)", "LePil(5)", "LePil(4)", "LePil(6)"};
+constexpr std::string_view kAbacoCerramiento[] = {"LbP1(0)", "TxtQ(0)"};
+constexpr std::string_view kAbacoDimensiones[] = {"PilX",   "PilY",    "AbacoX", "AbacoY",  "ChX(0)", "ArmX(0)",
+                                                  "ChX(1)", "ArmX(1)", "ChY(0)", "ArmY(0)", "ChY(1)", "ArmY(1)"};
+constexpr std::string_view kAbacoPunzonamiento[] = {"ChPun(0)",   "ArmPunz(0)", "TxSep(0)", "ChPun(1)", "ArmPunz(1)",
+                                                    "TxSep(1)",   "ChPun(2)",   "ArmPunz(2)", "TxSep(2)"};
+constexpr std::string_view kAbacoNervios[] = {"UCArVig(0)", "UCArVig(1)",   "ChMas1X",    "UCArVig(2)",
+                                              "UCArVig(3)", "ChMas1Y",      "chkCercosX", "cmbCercos(0)",
+                                              "UCArCer(0)", "chkCercosY",   "cmbCercos(1)", "UCArCer(1)"};
+constexpr std::string_view kAbacoForjado[] = {"cmbTipoFor", "PtFor", "txtForj", "UCMall", "Command3"};
+constexpr GrupoDef kGruposAbaco[] = {
+    {"", kMsgGrupoElemento, kAbacoNivel, "Frm1", 0}, {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0},
+    {"Label2", 0, kAbacoPosicion, "Frm1", 0},        {"UCframeLucesCen", 0, kAbacoLucesCentro, "Frm1", 0},
+    {"UCframeLucesBor", 0, kAbacoLucesBorde, "Frm1", 0}, {"UCframeLucesEsq", 0, kAbacoLucesEsquina, "Frm1", 0},
+    {"Label7", 0, kAbacoCerramiento, "Frm1", 0},
+    {"Picture1", 0, kAbacoDimensiones, "Frm1", 1},   {"FrPunz", 0, kAbacoPunzonamiento, "Frm1", 1},
+    {"frmNervios", 0, kAbacoNervios, "Frm1", 2},     {"UCfrFor", 0, kAbacoForjado, "", 2},
+    {"UCframe2", 0, kCamposResultados, "", 2},
+};
+
+// The corbel's window: its kind and casting joint; its sketch beside its sizes; the loads with
+// the beam's moment and shear; the bars and what they came to.
+constexpr std::string_view kMensulaTipo[] = {"OpTipo(0)", "OpTipo(1)", "OpTipo(2)", "OpTipo(3)"};
+constexpr std::string_view kMensulaHormigonado[] = {"Hormig", "TextCtg"};
+constexpr std::string_view kMensulaCotas[] = {"PictureM",  "PictureV",  "TxCota(0)", "TxCota(1)",
+                                              "TxCota(2)", "TxCota(3)", "TxCota(4)", "TxCota(5)"};
+constexpr std::string_view kMensulaCargas[] = {"TxtQ(0)", "TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "TxCota(6)", "txtMom", "txtCort"};
+constexpr std::string_view kMensulaArmado[] = {"UCArmPrinc", "UCArmCercos", "LbColgar2", "UCArmColgar"};
+constexpr std::string_view kMensulaArmaduras[] = {"TxArmado", "TxCercos", "txCuelgue"};
+constexpr GrupoDef kGruposMensCorta[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, "Frm1", 0}, {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0},
+    {"FrTipologia", 0, kMensulaTipo, "Frm1", 0},        {"FrHormigonado", 0, kMensulaHormigonado, "Frm1", 0},
+    {"FrCotas", 0, kMensulaCotas, "Frm1", 1},           {"FrCargas", 0, kMensulaCargas, "Frm1", 1},
+    {"FrArmado", 0, kMensulaArmado, "Frm1", 2},         {"FrArmaduras", 0, kMensulaArmaduras, "", 2},
+    {"UCframe2", 0, kCamposResultados, "", 2},
+};
+
+// The stair's window: its exposure, kind, slab and landings, and loads; the kind chosen, its
+// sketch with its lengths, end conditions and bars in a frame of its own.
+constexpr std::string_view kEscExposicion[] = {"CmbAmbGral", "CmbAmbEspec"};
+constexpr std::string_view kEscTipo[] = {"OptLosa(0)", "OptLosa(1)", "OptLosa(2)", "OptLosa(3)"};
+constexpr std::string_view kEscDimensiones[] = {"TxtCanto(0)", "txtAncho(0)", "Label3",      "TxtCanto(1)",
+                                                "txtAncho(1)", "Label7",      "TxtCanto(2)", "txtAncho(2)"};
+constexpr std::string_view kEscCargas[] = {"txtSobrUso", "txtSolado", "Label10"};
+constexpr std::string_view kEscH1[] = {"PictH1", "TxCotaH1"};
+constexpr std::string_view kEscDesc[] = {"PictHD", "TxCotaDesc"};
+constexpr std::string_view kEscH2[] = {"PictH2", "TxCotaH2"};
+constexpr std::string_view kEscRampa[] = {"PictRampa", "TxCotaRampa", "LbAstExpl"};
+constexpr std::string_view kEscH1Armado[] = {"OptH1izq", "OptH1der", "UCNumDiamH1"};
+constexpr std::string_view kEscDescArmado[] = {"OptDApoIzq", "OptDApoDer", "UCNumDiamDesc"};
+constexpr std::string_view kEscH2Armado[] = {"OptH2izqI", "OptH2izqS", "OptH2der", "UCNumDiamH2"};
+constexpr std::string_view kEscRampaArmado[] = {"OptRampaApoIzq", "OptRampaApoDer", "UCNumDiamRampa"};
+// The heading of the ends and bars of the kind chosen.
+constexpr int kMsgApoyosYArmado = 1664;
+constexpr GrupoDef kGruposEscHorm[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, "Frm1", 0}, {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0},
+    {"FrExposicion", 0, kEscExposicion, "Frm1", 0},     {"FrTipoLosa", 0, kEscTipo, "Frm1", 0},
+    {"FrDimensiones", 0, kEscDimensiones, "Frm1", 0},   {"FrCargasLosa", 0, kEscCargas, "Frm1", 0},
+    {"UCframeH1", 0, kEscH1, "Frm1", 1},                {"UCframeDesc", 0, kEscDesc, "Frm1", 1},
+    {"UCframeH2", 0, kEscH2, "Frm1", 1},                {"UCframeRampa", 0, kEscRampa, "Frm1", 1},
+    {"", kMsgApoyosYArmado, kEscH1Armado, "UCframeH1", 2},       {"", kMsgApoyosYArmado, kEscDescArmado, "UCframeDesc", 2},
+    {"", kMsgApoyosYArmado, kEscH2Armado, "UCframeH2", 2},       {"", kMsgApoyosYArmado, kEscRampaArmado, "UCframeRampa", 2},
+    {"UCframe2", 0, kCamposResultados, "", 2},
+};
+
 }  // namespace
 
 std::span<const TablaForm> TablasHormigon()
@@ -434,17 +569,23 @@ std::span<const TablaForm> TablasHormigon()
          "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet,
          Listas{{"cmbTipoFor", -1, kCaseton}} + ListasForjado() + ListasHormigon(),
          {Magnitud::LinealKg}, Despacho::Registros, true,
+         // The waffle slab's own panel of slab data, opened over the form as a dialog.
          Visibles({EtiquetasLosaBandas}, {
-             {kCb, "cmbTipoFor", -1, "Casetón"},
+             {kFr, "UCfrFor", -1, "Características del Forjado"},
+             {kBt, "Command1", -1, "Características Forjado ..."},
+             {kBt, "Command3", -1, "Aceptar"},
+             {kCb, "cmbTipoFor", -1, "Casetón:"},
+             {kPc, "PtFor", 0, ""},
+             {kPc, "PtFor", 1, ""},
              {kOp, "OpAncho", 0, "por metro"},
              {kOp, "OpAncho", 1, "por nervio"},
-             {kTx, "txtForj", 0, "Dimensión forjado 0 (cm)"},
-             {kTx, "txtForj", 1, "Dimensión forjado 1 (cm)"},
-             {kTx, "txtForj", 2, "Dimensión forjado 2 (cm)"},
-             {kTx, "txtForj", 3, "Dimensión forjado 3 (cm)"},
+             {kTx, "txtForj", 0, "Ancho del nervio (cm)"},
+             {kTx, "txtForj", 1, "Separación entre nervios (cm)"},
+             {kTx, "txtForj", 2, "Altura del casetón (cm)"},
+             {kTx, "txtForj", 3, "Capa de compresión (cm)"},
              {kTx, "txtForj", 4, "Canto total (cm)"},
          }),
-         MenuDef{"Hormigon", 6, "Forjado_Reticular", "Forjado Reticular"}},
+         MenuDef{"Hormigon", 6, "Forjado_Reticular", "Forjado Reticular"}, kGruposForjRet, &CreaDe<LosaBandas>},
         {"frmForMaci", kCamposFrmForMaci,
          // The solid slab compares its spans as the waffle slab does, and its depth in place of the
          // waffle's depths.
@@ -455,7 +596,7 @@ std::span<const TablaForm> TablasHormigon()
          Visibles({EtiquetasLosaBandas}, {
              {kTx, "TxtCanto", -1, "Canto (cm)"},
          }),
-         MenuDef{"Hormigon", 7, "mnuForjMacizo", "Placa maciza"}},
+         MenuDef{"Hormigon", 7, "mnuForjMacizo", "Placa maciza"}, kGruposForMaci, &CreaDe<LosaBandas>},
         {"frmAbaco", kCamposFrmAbaco,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Abacos de Hormigón Armado", "Abaco 01", kRecubYPanelCentral, kMinimosAbaco,
@@ -464,72 +605,124 @@ std::span<const TablaForm> TablasHormigon()
          // The drop panel at a column: the column and the panel, their bars, the punching rows, the
          // slab around it and its ribs.
          Visibles({}, {
+             {kFr, "Label2", -1, "Situación pilar en planta"},
              {kOp, "OpPosPil", 0, "centro"},
              {kOp, "OpPosPil", 1, "borde"},
              {kOp, "OpPosPil", 2, "esquina"},
-             {kTx, "LePil", -1, "Distancias (m)"},
+             {kPc, "Ptpilar", 0, ""},
+             {kPc, "Ptpilar", 1, ""},
+             {kPc, "Ptpilar", 2, ""},
+             {kPc, "PtAbaco", -1, ""},
+             {kFr, "UCframeLucesCen", -1, "Distancias en metros"},
+             {kFr, "UCframeLucesBor", -1, "Distancias en metros"},
+             {kFr, "UCframeLucesEsq", -1, "Distancias en metros"},
+             {kPc, "ImgPilar", -1, ""},
+             {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
+             {kTx, "LePil", 9, "a1"}, {kTx, "LePil", 8, "a2"}, {kTx, "LePil", 11, "a3"}, {kTx, "LePil", 10, "a4"},
+             {kTx, "LePil", 7, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 4, "a3"}, {kTx, "LePil", 6, "a4"},
+             {kFr, "Picture1", -1, "Dimensiones y armado ábacos"},
              {kTx, "PilX", -1, "Lado pilar X (m)"},
              {kTx, "PilY", -1, "Lado pilar Y (m)"},
              {kTx, "AbacoX", -1, "Lado ábaco X (m)"},
              {kTx, "AbacoY", -1, "Lado ábaco Y (m)"},
-             {kNd, "ArmX", -1, "Armado superior X"},
-             {kNd, "ArmY", -1, "Armado superior Y"},
-             {kCk, "ChX", -1, "Armado superior X #"},
-             {kCk, "ChY", -1, "Armado superior Y #"},
-             {kNd, "ArmPunz", -1, "Armado punzonamiento"},
+             {kNd, "ArmX", 0, "Armado superior X: refuerzo"},
+             {kNd, "ArmX", 1, "Armado superior X: montaje"},
+             {kNd, "ArmY", 0, "Armado superior Y: refuerzo"},
+             {kNd, "ArmY", 1, "Armado superior Y: montaje"},
+             {kCk, "ChX", 0, "Refuerzo X"},
+             {kCk, "ChX", 1, "Montaje X"},
+             {kCk, "ChY", 0, "Refuerzo Y"},
+             {kCk, "ChY", 1, "Montaje Y"},
+             {kFr, "FrPunz", -1, "Armado punzonamiento"},
+             {kNd, "ArmPunz", -1, "Armado fila #"},
              {kTx, "TxSep", -1, "Separación fila # (m)"},
              {kCk, "ChPun", -1, "Fila de punzonamiento #"},
-             {kCb, "cmbTipoFor", -1, "Casetón"},
-             {kTx, "txtForj", -1, "Dimensión forjado # (cm)"},
+             {kBt, "Command1", -1, "Características Forjado ..."},
+             {kFr, "UCfrFor", -1, "Características del Forjado"},
+             {kBt, "Command3", -1, "Aceptar"},
+             {kCb, "cmbTipoFor", -1, "Casetón:"},
+             {kPc, "PtFor", 0, ""},
+             {kPc, "PtFor", 1, ""},
+             {kPc, "PtFor", 2, ""},
+             {kTx, "txtForj", 0, "Ancho del nervio (cm)"},
+             {kTx, "txtForj", 1, "Separación entre nervios (cm)"},
+             {kTx, "txtForj", 2, "Altura del casetón (cm)"},
+             {kTx, "txtForj", 3, "Capa de compresión (cm)"},
+             {kTx, "txtForj", 4, "Canto total (cm)"},
              {kM, "UCMall", -1, "Mallazo"},
-             {kNd, "UCArVig", -1, "Armado de los nervios"},
-             {kNs, "UCArCer", -1, "Cercos de los nervios"},
+             {kFr, "frmNervios", -1, "Armado de los nervios"},
+             {kNd, "UCArVig", 0, "Flector X-X'"},
+             {kNd, "UCArVig", 1, "Flector X-X': adicional"},
+             {kNd, "UCArVig", 2, "Flector Y-Y'"},
+             {kNd, "UCArVig", 3, "Flector Y-Y': adicional"},
+             {kNs, "UCArCer", 0, "Cortante X-X'"},
+             {kNs, "UCArCer", 1, "Cortante Y-Y'"},
              {kCk, "ChMas1X", -1, "Barra adicional X-X'"},
              {kCk, "ChMas1Y", -1, "Barra adicional Y-Y'"},
              {kCk, "chkCercosX", -1, "Cercos X-X'"},
              {kCk, "chkCercosY", -1, "Cercos Y-Y'"},
              {kCb, "cmbCercos", 0, "Tipo de cercos X-X'"},
              {kCb, "cmbCercos", 1, "Tipo de cercos Y-Y'"},
+             {kLb, "Label7", -1, "Carga cerramiento (sin mayorar)"},
+             {kLb, "LbP1", 0, "P="},
              {kTx, "TxtQ", 0, "Carga cerramiento (sin mayorar)"},
              {kTx, "TxtRes1", -1, "Bielas"},
              {kTx, "TxtRes2", -1, "Punzonam."},
              {kTx, "TxtRes3", -1, "Cortante"},
          }),
-         MenuDef{"Hormigon", 8, "Abacos", "Ábacos"}},
+         MenuDef{"Hormigon", 8, "Abacos", "Ábacos"}, kGruposAbaco, &CreaDe<Abaco>},
         {"frmMensCorta", kCamposFrmMensCorta,
          // Reasoned minimums: the corbel's sizes must be positive.
          {true, true, PasoComprobacion::SinArgumentos, false},
-         "Ménsulas Cortas", "Ménsula 01", kRecubEstructura, kMinimosMensCorta,
+         "Ménsulas Cortas", "Ménsula 01", kRecubYMensulaSimple, kMinimosMensCorta,
          Listas{{"Hormig", -1, kHormigonado}} + ListasHormigon25(),
          {Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Momento, Magnitud::Lineal}, Despacho::Registros, true,
-         // The short corbel: its kind, its sizes and loads, the casting joint and its bars.
+         // The short corbel: its kind, its sizes and loads, the casting joint and its bars; the
+         // pictures of each kind (ImageM, three a kind) stand in the corbel's drawing.
          Visibles({}, {
+             {kFr, "FrTipologia", -1, "Tipología"},
              {kOp, "OpTipo", 0, "Ménsula simple"},
              {kOp, "OpTipo", 1, "Viga embrochalada en ménsula"},
              {kOp, "OpTipo", 2, "Pilar en vuelo"},
              {kOp, "OpTipo", 3, "Pilar excéntrico"},
-             {kTx, "TxCota", -1, "Cota (cm)"},
+             {kPc, "ImageM", 0, ""}, {kPc, "ImageM", 1, ""}, {kPc, "ImageM", 2, ""}, {kPc, "ImageM", 3, ""},
+             {kPc, "ImageM", 4, ""}, {kPc, "ImageM", 5, ""}, {kPc, "ImageM", 6, ""}, {kPc, "ImageM", 7, ""},
+             {kPc, "ImageM", 8, ""}, {kPc, "ImageM", 9, ""}, {kPc, "ImageM", 10, ""}, {kPc, "ImageM", 11, ""},
+             {kPc, "PictureM", -1, ""},
+             {kPc, "PictureV", -1, ""},
+             {kFr, "FrCotas", -1, "Cotas y separación barras en cm. Cargas mayoradas"},
+             {kTx, "TxCota", 0, "Canto en el arranque (cm)"},
+             {kTx, "TxCota", 1, "Canto en el extremo (cm)"},
+             {kTx, "TxCota", 2, "Distancia del apoyo al pilar (cm)"},
+             {kTx, "TxCota", 3, "Ancho del apoyo (cm)"},
+             {kTx, "TxCota", 4, "Canto del pilar (cm)"},
+             {kTx, "TxCota", 5, "Ancho de la ménsula (cm)"},
              {kTx, "TxCota", 6, "Luz viga (cm)"},
+             {kFr, "FrCargas", -1, "Cargas mayoradas"},
              {kTx, "TxtQ", 0, "Fvd"},
              {kTx, "TxtQ", 1, "Fhd"},
              {kTx, "TxtQ", 2, "Md"},
              {kTx, "TxtQ", 3, "Carga viga"},
+             {kFr, "FrHormigonado", -1, "Forma de hormigonado"},
              {kCb, "Hormig", -1, "Forma de hormigonado"},
              {kTx, "TextCtg", -1, "Cotg θ"},
-             {kTx, "txtMom", -1, "Md viga"},
-             {kTx, "txtCort", -1, "Vd viga"},
+             {kTx, "txtMom", -1, "Md viga (m·t)"},
+             {kTx, "txtCort", -1, "Vd viga (t)"},
+             {kFr, "FrArmado", -1, "Armado"},
              {kNd, "UCArmPrinc", -1, "Armadura principal"},
              {kNd, "UCArmCercos", -1, "Cercos horizontales"},
+             {kLb, "LbColgar2", -1, "Armadura de cuelgue de la viga"},
              {kNd, "UCArmColgar", -1, "Armadura de cuelgue"},
              {kTx, "TxtRes1", 0, "Bielas"},
              {kTx, "TxtRes1", 1, "Principal"},
              {kTx, "TxtRes1", 2, "Cercos horiz"},
              {kTx, "TxtRes1", 3, "Cuelgue"},
+             {kFr, "FrArmaduras", -1, "Armadura"},
              {kTx, "txCuelgue", -1, "Armadura cuelgue"},
              {kTx, "TxCercos", -1, "Armadura cercos"},
              {kTx, "TxArmado", -1, "Armadura principal"},
          }),
-         MenuDef{"Hormigon", 9, "Mensula", "Ménsula Corta"}},
+         MenuDef{"Hormigon", 9, "Mensula", "Ménsula Corta"}, kGruposMensCorta, &CreaDe<MensCorta>},
         {"frmVigPared", kCamposFrmVigPared,
          // The deep beam also compares the column depths with 200, an upper limit, not listed here.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -577,25 +770,72 @@ std::span<const TablaForm> TablasHormigon()
          MenuDef{"Hormigon", 10, "Vigapared", "Viga Pared"}, kGruposVigPared, &CreaDe<VigPared>},
         {"frmEscHorm", kCamposFrmEscHorm,
          {true, true, PasoComprobacion::Bandera, false},
-         "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubEstructura, kMinimosEscHorm,
+         "Escaleras y Rampas de Hormigón", "Escalera Hormigón 01", kRecubYTramo, kMinimosEscHorm,
          ListasExposicion() + ListasHormigon(),
          {}, Despacho::Registros, true,
          // The concrete stair or ramp: its kind, the slab and landings, the loads, and for each kind
-         // its lengths, its bars and the holding of its ends.
+         // its sketch, its lengths, its bars and the holding of its ends.
          Visibles({EtiquetasEscalera}, {
+             {kFr, "FrExposicion", -1, "Exposición"},
+             {kFr, "FrTipoLosa", -1, "Tipo losa"},
              {kOp, "OptLosa", 0, "Escalera 1 tramo"},
              {kOp, "OptLosa", 1, "Escalera 1 tramo con descanso"},
              {kOp, "OptLosa", 2, "Escalera 2 tramos"},
              {kOp, "OptLosa", 3, "Rampa"},
-             {kTx, "TxtCanto", -1, "Canto (m)"},
-             {kNd, "UCNumDiamH1", -1, "Barras escalera 1 tramo"},
-             {kNd, "UCNumDiamDesc", -1, "Barras escalera con descanso"},
-             {kNd, "UCNumDiamH2", -1, "Barras escalera 2 tramos"},
-             {kNd, "UCNumDiamRampa", -1, "Barras rampa"},
+             {kFr, "FrDimensiones", -1, "Dimensiones de la losa"},
+             {kTx, "TxtCanto", 0, "Canto losa (m)"},
+             {kTx, "TxtCanto", 1, "Canto descansillo 1 (m)"},
+             {kTx, "TxtCanto", 2, "Canto descansillo 2 (m)"},
+             {kTx, "txtAncho", 0, "Ancho losa (m)"},
+             {kTx, "txtAncho", 1, "Ancho descansillo 1 (m)"},
+             {kTx, "txtAncho", 2, "Ancho descansillo 2 (m)"},
+             {kLb, "Label3", -1, "Descansillo 1:"},
+             {kLb, "Label7", -1, "Descansillo 2:"},
+             {kFr, "FrCargasLosa", -1, "Cargas sobre la losa"},
+             {kLb, "Label10", -1, "kN/m2"},
+             {kLb, "LbCanto", -1, ""},
+             {kFr, "UCframeH1", -1, "Escalera 1 tramo"},
+             {kFr, "UCframeDesc", -1, "Escalera 1 tramo con descanso"},
+             {kFr, "UCframeH2", -1, "Escalera 2 tramos"},
+             {kFr, "UCframeRampa", -1, "Rampa"},
+             {kPc, "PictH1", -1, ""},
+             {kPc, "PictHD", -1, ""},
+             {kPc, "PictH2", -1, ""},
+             {kPc, "PictRampa", -1, ""},
+             {kLb, "LbAstExpl", -1, "Esta cota puede tomar valor cero"},
+             {kTx, "TxCotaH1", 0, "Tramo inferior (m)"},
+             {kTx, "TxCotaH1", 1, "Tramo inclinado (m)"},
+             {kTx, "TxCotaH1", 2, "Tramo superior (m)"},
+             {kTx, "TxCotaH1", 3, "Altura (m)"},
+             {kTx, "TxCotaDesc", 0, "Primer tramo (m)"},
+             {kTx, "TxCotaDesc", 1, "Descansillo (m)"},
+             {kTx, "TxCotaDesc", 2, "Segundo tramo (m)"},
+             {kTx, "TxCotaDesc", 3, "Altura primer tramo (m)"},
+             {kTx, "TxCotaDesc", 4, "Altura segundo tramo (m)"},
+             {kTx, "TxCotaH2", 0, "Tramo inferior (m)"},
+             {kTx, "TxCotaH2", 1, "Tramos inclinados (m)"},
+             {kTx, "TxCotaH2", 2, "Descansillo (m)"},
+             {kTx, "TxCotaH2", 3, "Altura primer tramo (m)"},
+             {kTx, "TxCotaH2", 4, "Altura segundo tramo (m)"},
+             {kTx, "TxCotaRampa", 0, "Longitud (m)"},
+             {kTx, "TxCotaRampa", 1, "Altura (m)"},
+             {kOp, "OptH1izq", 0, "Izquierdo apoyado"}, {kOp, "OptH1izq", 1, "Izquierdo con continuidad"}, {kOp, "OptH1izq", 2, "Izquierdo empotrado"},
+             {kOp, "OptH1der", 0, "Derecho apoyado"}, {kOp, "OptH1der", 1, "Derecho con continuidad"}, {kOp, "OptH1der", 2, "Derecho empotrado"},
+             {kOp, "OptDApoIzq", 0, "Izquierdo apoyado"}, {kOp, "OptDApoIzq", 1, "Izquierdo con continuidad"}, {kOp, "OptDApoIzq", 2, "Izquierdo empotrado"},
+             {kOp, "OptDApoDer", 0, "Derecho apoyado"}, {kOp, "OptDApoDer", 1, "Derecho con continuidad"}, {kOp, "OptDApoDer", 2, "Derecho empotrado"},
+             {kOp, "OptH2izqI", 0, "Inferior apoyado"}, {kOp, "OptH2izqI", 1, "Inferior con continuidad"}, {kOp, "OptH2izqI", 2, "Inferior empotrado"},
+             {kOp, "OptH2izqS", 0, "Superior apoyado"}, {kOp, "OptH2izqS", 1, "Superior con continuidad"}, {kOp, "OptH2izqS", 2, "Superior empotrado"},
+             {kOp, "OptH2der", 0, "Descansillo apoyado"}, {kOp, "OptH2der", 1, "Descansillo con continuidad"}, {kOp, "OptH2der", 2, "Descansillo empotrado"},
+             {kOp, "OptRampaApoIzq", 0, "Izquierdo apoyado"}, {kOp, "OptRampaApoIzq", 1, "Izquierdo con continuidad"}, {kOp, "OptRampaApoIzq", 2, "Izquierdo empotrado"},
+             {kOp, "OptRampaApoDer", 0, "Derecho apoyado"}, {kOp, "OptRampaApoDer", 1, "Derecho con continuidad"}, {kOp, "OptRampaApoDer", 2, "Derecho empotrado"},
+             {kNd, "UCNumDiamH1", -1, "Barras #"},
+             {kNd, "UCNumDiamDesc", -1, "Barras #"},
+             {kNd, "UCNumDiamH2", -1, "Barras #"},
+             {kNd, "UCNumDiamRampa", -1, "Barras #"},
              {kTx, "TxtRes1", 0, "Flector"},
              {kTx, "TxtRes1", 1, "Cortante"},
          }),
-         MenuDef{"Hormigon", 11, "mnuEscal", "Escaleras"}},
+         MenuDef{"Hormigon", 11, "mnuEscal", "Escaleras"}, kGruposEscHorm, &CreaDe<EscHorm>},
     };
     static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;

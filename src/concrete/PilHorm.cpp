@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Texto.h"
+#include "frame/Finitos.h"
 #include "works/Declaraciones.h"
 #include "works/Subrut.h"
 #include "works/VentanaError.h"
@@ -12,8 +13,6 @@ namespace vardena {
 namespace {
 
 constexpr int kMsgSinPosicion = 706;
-constexpr int kMsgDesbordamiento = 1522;
-constexpr int kErrDesbordamiento = 6;
 constexpr int kErrSubindice = 9;
 
 // The unit factor of fcd under control "Reducido", and that of fyd.
@@ -33,20 +32,21 @@ CargasPilar CalculaCargasPilar(const DatosCargasPilar& x)
 {
     const double a1 = x.a[0], a2 = x.a[1], a3 = x.a[2], a4 = x.a[3];
     const double carga = x.gammaQ * x.q + x.gammaG * x.g;
+    const double gammaCerramiento = x.regla == ReglaCargas::Abaco ? 1.0 : x.gammaG;
     CargasPilar r;
     switch (x.posicion) {
     case PosicionPilar::Centro:
         r.area = (a2 + a1) * (a4 + a3) / 4;
         break;
     case PosicionPilar::Borde: {
-        r.nCerramiento = x.e * (a4 + a3) / 2 * x.gammaG;
+        r.nCerramiento = x.e * (a4 + a3) / 2 * gammaCerramiento;
         r.area = (a2 / 2 + a1) * (a4 + a3) / 2;
         const double w = carga * (a4 + a3) / 2;
         r.mx = kParteMomento * std::abs(w * a2 * a2 / 12 - w * a1 * a1 / 2 - r.nCerramiento * a1);
         break;
     }
     case PosicionPilar::Esquina: {
-        r.nCerramiento = x.e * (a2 / 2 + a1 + a3 / 2 + a4) * x.gammaG;
+        r.nCerramiento = x.e * (a2 / 2 + a1 + a3 / 2 + a4) * gammaCerramiento;
         r.area = (a2 / 2 + a1) * (a3 / 2 + a4);
         const double wx = carga * (a3 / 2 + a4) + x.e;
         const double wy = carga * (a2 / 2 + a1) + x.e;
@@ -56,6 +56,8 @@ CargasPilar CalculaCargasPilar(const DatosCargasPilar& x)
         break;
     }
     }
+    if (x.regla == ReglaCargas::Abaco)
+        r.area = (a4 + a3) * (a2 + a1) / 4;
     r.n = (x.gammaG * x.gT + x.gammaQ * x.qT) * r.area + r.nCerramiento;
     return r;
 }
@@ -212,9 +214,8 @@ std::optional<PosicionPilar> PilHorm::Posicion() const
 
 double PilHorm::Luz(int index) const { return ValComaCopy(At("LePil", index).Text()); }
 
-void PilHorm::CargasNivel(int nivel, double& g, double& q) const
+void CargasDeNivel(const Declaraciones& d, int nivel, double& g, double& q)
 {
-    const Declaraciones& d = decl();
     auto fuera = [&] {
         return ErrorEjecucion(kErrSubindice, "CmbPlanta: " + std::to_string(nivel) + " is no level of the work");
     };
@@ -235,26 +236,41 @@ void PilHorm::CargasNivel(int nivel, double& g, double& q) const
     q = static_cast<double>(d.GenSTabP[p]) + d.GenSobrP[p];
 }
 
-void PilHorm::CoeficientesControl(double& gammaG, double& gammaQ)
+MaterialesControl MaterialesDe(Form& form)
 {
-    Declaraciones& d = decl();
-    const Control* control = Find("cmbControl");
+    Declaraciones& d = form.decl();
+    MaterialesControl m;
+    const Control* control = form.Find("cmbControl");
     const int fila = control ? control->ListIndex() : 0;
     const int indice = IndiceMaterial(fila, d.GenControl);
-    Coeficientes(d, indice, gammaG, gammaQ);
+    Coeficientes(d, indice, m.gammaG, m.gammaQ);
     // The design strengths of the concrete forms, as the check takes them.
-    const Control* horm = Find("CmbHorm");
-    const Control* acero = Find("CmbAcero");
+    const Control* horm = form.Find("CmbHorm");
+    const Control* acero = form.Find("CmbAcero");
     if (!horm || !acero)
-        return;
+        return m;
     const std::optional<int16_t> fck = FckIndice(d, IndiceMaterial(horm->ListIndex(), d.GenHorm));
     const std::optional<int32_t> fyk = FykIndice(d, IndiceMaterial(acero->ListIndex(), d.GenAcero));
     if (indice == 0) {
-        fcd_ = kFcdReducido;
-        fyd_ = 0.75 * fyk.value_or(0) / kGammaS;
+        m.fcd = kFcdReducido;
+        m.fyd = 0.75 * fyk.value_or(0) / kGammaS;
     } else {
-        fcd_ = fck.value_or(0) / kGammaC;
-        fyd_ = fyk.value_or(0) / kGammaS;
+        m.fcd = fck.value_or(0) / kGammaC;
+        m.fyd = fyk.value_or(0) / kGammaS;
+    }
+    return m;
+}
+
+void PilHorm::CargasNivel(int nivel, double& g, double& q) const { CargasDeNivel(decl(), nivel, g, q); }
+
+void PilHorm::CoeficientesControl(double& gammaG, double& gammaQ)
+{
+    const MaterialesControl m = MaterialesDe(*this);
+    gammaG = m.gammaG;
+    gammaQ = m.gammaQ;
+    if (Find("CmbHorm") && Find("CmbAcero")) {
+        fcd_ = m.fcd;
+        fyd_ = m.fyd;
     }
 }
 
@@ -299,15 +315,11 @@ void PilHorm::CalCargas()
     }
 
     const CargasPilar r = CalculaCargasPilar(x);
-    if (!std::isfinite(r.n) || !std::isfinite(r.mx) || !std::isfinite(r.my)) {
-        // Name the distance that takes the result out of range: the largest.
-        int mayor = primera;
-        for (int i = primera; i < primera + 4; ++i)
-            if (std::abs(Luz(i)) > std::abs(Luz(mayor)))
-                mayor = i;
-        const Control& c = At("LePil", mayor);
-        throw ErrorEjecucion(kErrDesbordamiento, Mensaje(d, kMsgDesbordamiento, {c.Label(), c.Text()}));
-    }
+    std::array<const Control*, 4> luces{};
+    for (int i = 0; i < 4; ++i)
+        luces[static_cast<size_t>(i)] = &At("LePil", primera + i);
+    // An overflow names the largest distance.
+    CompruebaFinitos(*this, {r.n, r.mx, r.my}, luces);
 
     // Everything is computed: only now does the panel change.
     cargas_ = r;

@@ -28,6 +28,10 @@ constexpr int PrimeraLuz(PosicionPilar p)
 }
 inline constexpr int kAlturaPlanta = 12;
 
+// Whose rule the estimate follows. The drop panel (frmAbaco) takes its enclosure force without
+// the safety coefficient and the slab's loaded area (a4 + a3)(a2 + a1) / 4 at every position.
+enum class ReglaCargas { Pilar, Abaco };
+
 // What the estimate takes, in internal units (m, t, t/m2): the distances a1..a4, the loads per
 // m2 of the levels carried (GT, QT) and of the column's own level (G, Q), the enclosure term e
 // and the two safety coefficients of the control level.
@@ -36,6 +40,7 @@ struct DatosCargasPilar {
     std::array<double, 4> a{};
     double gT = 0, qT = 0, g = 0, q = 0, e = 0;
     double gammaG = 0, gammaQ = 0;
+    ReglaCargas regla = ReglaCargas::Pilar;
 };
 // The axial force (t), the two moments (m·t) and what goes into them.
 struct CargasPilar {
@@ -44,6 +49,20 @@ struct CargasPilar {
     double n = 0, mx = 0, my = 0;
 };
 CargasPilar CalculaCargasPilar(const DatosCargasPilar& datos);
+
+// The loads G and Q per m2 of level `nivel` (row of CmbPlanta): floors and roof, or basements
+// below NPlantasSobre; self-weight + permanent, partitions + imposed. A row the work does not
+// have is a subscript error.
+void CargasDeNivel(const Declaraciones& d, int nivel, double& g, double& q);
+
+// What a form's control level gives: the safety coefficients (gamma g, gamma q) of its
+// cmbControl, or of the general data where it has no such list, and, for a concrete form
+// (CmbHorm and CmbAcero), the design strengths in t/m2 ("Reducido": fcd 1000, fyd 0.75 fyk /
+// 1.15); 0 otherwise.
+struct MaterialesControl {
+    double gammaG = 0, gammaQ = 0, fcd = 0, fyd = 0;
+};
+MaterialesControl MaterialesDe(Form& form);
 
 class PilHorm : public ElementForm {
 public:

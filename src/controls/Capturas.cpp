@@ -55,8 +55,9 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
     menu->close();
     const std::pair<const char*, const char*> ventanas[] = {
         {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
-        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"},
-        {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"}};
+        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"},
+        {"FORR", "30-frmForjRet"}, {"FORP", "31-frmForMaci"}, {"ABAC", "32-frmAbaco"}, {"HMEN", "33-frmMensCorta"},
+        {"ESCH", "34-frmEscHorm"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)
@@ -108,6 +109,14 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
             f.At("CmbEndur").SetListIndex(1);
         });
         escritas.push_back(Fotografia(v, carpeta, std::to_string(n++) + "-frmHormigon"));
+        v->alCerrar = nullptr;
+        v->close();
+    }
+    // The waffle slab with its panel of slab data opened over the form, as its button opens it.
+    if (VentanaForm* v = programa.AbreOpcion("FORR")) {
+        EligePrimerRegistro(v);
+        v->vista().Ejecuta([&f = v->form()] { f.At("Command1").Click(); });
+        escritas.push_back(Fotografia(v, carpeta, "35-frmForjRet-forjado"));
         v->alCerrar = nullptr;
         v->close();
     }

@@ -30,7 +30,7 @@ public:
     DibujoCroquis(const ElementForm& form, const Control& picture) : form_(form), picture_(picture)
     {
         setMinimumSize(140, 105);
-        QSizePolicy politica(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        QSizePolicy politica(QSizePolicy::Expanding, QSizePolicy::Preferred);
         politica.setHeightForWidth(true);
         setSizePolicy(politica);
         setObjectName(Q(picture.Label()));
@@ -108,6 +108,7 @@ private:
         case PapelCroquis::Terreno: return QColor("#e6d8bd");
         case PapelCroquis::Hormigon: return QColor("#c3cad4");
         case PapelCroquis::Hueco: return fondo;
+        case PapelCroquis::Resalte: return QColor(173, 205, 236, 170);
         default: return Qt::NoBrush;
         }
     }
@@ -118,6 +119,7 @@ private:
         case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
         case PapelCroquis::Ausente: return QPen(QColor("#9aa3ad"), 1, Qt::DashLine);
+        case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 2);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }
@@ -144,7 +146,8 @@ private:
         const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
         // The text stands whole beside its line, however short the line is drawn.
         const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 48, 18) : QRectF(medio.x() - 30, medio.y() - 17, 60, 16);
-        p.drawText(caja, vertical ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter, texto);
+        const int alineado = vertical ? int(Qt::AlignLeft | Qt::AlignVCenter) : int(Qt::AlignCenter);
+        p.drawText(caja, alineado | Qt::TextDontClip, texto);
     }
 
     const ElementForm& form_;
@@ -445,8 +448,11 @@ QWidget* VentanaElemento::CreaPanel()
 
 void VentanaElemento::Actualiza()
 {
-    for (auto& [caja, grupo] : grupos_)
+    for (auto& [caja, grupo] : grupos_) {
         caja->setVisible(GrupoVisible(grupo));
+        // A panel that opens over the form as a dialog disables the frames it covers.
+        caja->setEnabled(std::all_of(grupo.marcos.begin(), grupo.marcos.end(), [](const Control* m) { return m->Enabled(); }));
+    }
     for (auto& [w, c] : siguen_)
         w->setVisible(c->Visible());
     const Control* rtb = form_->Find("RichTextBox1");

@@ -1,5 +1,6 @@
 #include "frame/ControlesVisibles.h"
 
+#include <cctype>
 #include <map>
 
 #include "frame/Campos.h"
@@ -123,25 +124,97 @@ const std::vector<ControlVisible>& EtiquetasForjado()
 }
 
 // A two-way slab panel, waffle or solid: its place in the plan, its spans, the bars of its four
-// bands and the safety coefficient of each band.
+// bands and the safety coefficient of each band. Band b (the middle and the column strip along X,
+// then along Y) holds UCArVig(6b) to UCArVig(6b + 5): at each of its three places (the support at
+// one end, the span, the support at the other) the base bars and a further bar switched on by the
+// ChArV after them, each with its length TxLv; its results are txtMf(3b) to txtMf(3b + 2).
 const std::vector<ControlVisible>& EtiquetasLosaBandas()
 {
-    static const std::vector<ControlVisible> filas = {
-        {kOp, "OpPosPil", 0, "Centro"},
-        {kOp, "OpPosPil", 1, "Borde"},
-        {kOp, "OpPosPil", 2, "Esquina"},
-        {kCb, "Combo1", -1, "Partición"},
-        {kTx, "txtForj", -1, "Longitud # (m)"},
-        {kNd, "UCArVig", -1, "Barras de las bandas"},
-        {kCk, "ChArV", -1, "Barra adicional #"},
-        {kTx, "TxLv", -1, "Longitud barra # (m)"},
-        {kTx, "TxtQ", 0, "Carga cerramiento (sin mayorar)"},
-        {kM, "UCMall", -1, "Armado reparto"},
-        {kTx, "txtMf", -1, "Coef. seguridad flector #"},
-        {kTx, "TxtRes1", -1, "Flector x-x'"},
-        {kTx, "TxtRes2", -1, "Flector y-y'"},
-        {kTx, "TxtRes3", -1, "Flecha"},
-    };
+    static const std::vector<std::string> textos = [] {
+        std::vector<std::string> t;
+        const char* lugaresX[] = {"izquierda", "centro", "derecha"};
+        const char* lugaresY[] = {"abajo", "centro", "arriba"};
+        for (int b = 0; b < 4; ++b)
+            for (int p = 0; p < 3; ++p) {
+                const std::string lugar = b < 2 ? lugaresX[p] : lugaresY[p];
+                const std::string tipo = p == 1 ? "Positivo " : "Negativo ";
+                t.push_back(tipo + lugar);
+                t.push_back("Refuerzo " + lugar);
+                t.push_back(std::string(1, static_cast<char>(std::toupper(static_cast<unsigned char>(lugar[0])))) +
+                            lugar.substr(1));
+                t.push_back("Longitud " + lugar + " (m)");
+                t.push_back("Longitud refuerzo " + lugar + " (m)");
+                t.push_back("Con refuerzo " + lugar);
+            }
+        return t;
+    }();
+    static const std::vector<ControlVisible> filas = [] {
+        std::vector<ControlVisible> f = {
+            {kOp, "OpPosPil", 0, "Centro"},
+            {kOp, "OpPosPil", 1, "Borde"},
+            {kOp, "OpPosPil", 2, "Esquina"},
+            {kCb, "Combo1", -1, "Partición"},
+            {kTx, "txtForj", 5, "Lx (m)"},
+            {kTx, "txtForj", 6, "Ly (m)"},
+            {kTx, "txtForj", 7, "Lx (m)"},
+            {kTx, "txtForj", 8, "Ly (m)"},
+            {kTx, "txtForj", 9, "Vuelo (m)"},
+            {kTx, "txtForj", 10, "Lx (m)"},
+            {kTx, "txtForj", 11, "Ly (m)"},
+            {kTx, "txtForj", 12, "Vuelo X (m)"},
+            {kTx, "txtForj", 13, "Vuelo Y (m)"},
+            {kTx, "TxtQ", 0, "Carga cerramiento (sin mayorar)"},
+            {kLb, "LbCer", -1, "Carga cerramiento (sin mayorar)"},
+            {kLb, "LbP1", 0, "P="},
+            {kM, "UCMall", -1, "Armado reparto"},
+            {kLb, "LbMall", -1, "No válido"},
+            {kTx, "TxtRes1", -1, "Flector x-x'"},
+            {kTx, "TxtRes2", -1, "Flector y-y'"},
+            {kTx, "TxtRes3", -1, "Flecha"},
+            {kFr, "UCframePos", -1, "Situación en planta"},
+            {kPc, "PctFRPlan", 0, ""},
+            {kPc, "PctFRPlan", 1, ""},
+            {kPc, "PctFRPlan", 2, ""},
+            {kFr, "UCframeLucesCen", -1, "Longitudes en metros"},
+            {kFr, "UCframeLucesBor", -1, "Longitudes en metros"},
+            {kFr, "UCframeLucesEsq", -1, "Longitudes en metros"},
+            {kFr, "Picture1", -1, "Armado de las bandas"},
+            {kFr, "Frame1", -1, "Dir. X"},
+            {kFr, "Frame22", -1, "Dir. Y"},
+            {kBt, "CmBanda", 0, "Banda central"},
+            {kBt, "CmBanda", 1, "Banda soportes"},
+            {kBt, "CmBanda", 2, "Banda central"},
+            {kBt, "CmBanda", 3, "Banda soportes"},
+            {kLb, "LbBAnda", -1, ""},
+            {kPc, "PctViga", -1, ""},
+            {kFr, "FrBanda0", -1, "Barras banda central X-X'"},
+            {kFr, "FrBanda1", -1, "Barras banda soportes X-X'"},
+            {kFr, "FrBanda2", -1, "Barras banda central Y-Y'"},
+            {kFr, "FrBanda3", -1, "Barras banda soportes Y-Y'"},
+            {kFr, "FrMallazo", -1, "Armado reparto"},
+            {kFr, "UCfrRes", -1, "RESULTADOS: coeficiente seguridad flector"},
+            {kBt, "Command2", -1, "Aceptar"},
+            {kFr, "FrRes0", -1, "Banda Central X-X'"},
+            {kFr, "FrRes1", -1, "Banda Sop. X-X'"},
+            {kFr, "FrRes2", -1, "Banda Central Y-Y'"},
+            {kFr, "FrRes3", -1, "Banda Sop. Y-Y'"},
+        };
+        for (int b = 0; b < 4; ++b)
+            for (int p = 0; p < 3; ++p) {
+                const size_t k = static_cast<size_t>(6 * (3 * b + p));
+                const int i = 6 * b + 2 * p;
+                f.push_back({kNd, "UCArVig", i, textos[k]});
+                f.push_back({kNd, "UCArVig", i + 1, textos[k + 1]});
+                f.push_back({kCk, "ChArV", i + 1, textos[k + 5]});
+                f.push_back({kTx, "txtMf", 3 * b + p, textos[k + 2]});
+                // The bars over the far support have no lengths of their own.
+                if (p < 2) {
+                    f.push_back({kTx, "TxLv", i, textos[k + 3]});
+                    f.push_back({kTx, "TxLv", i + 1, textos[k + 4]});
+                }
+            }
+        return f;
+    }();
     return filas;
 }
 

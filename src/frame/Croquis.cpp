@@ -29,4 +29,16 @@ void Croquis::Texto(PapelCroquis papel, PuntoCroquis en, std::string texto)
     trazos.push_back({FiguraCroquis::Texto, papel, {en}, std::move(texto)});
 }
 
+void Croquis::Apaisa(double proporcion)
+{
+    const int ancho2 = static_cast<int>(alto * proporcion);
+    if (ancho2 <= ancho)
+        return;
+    const int dx = (ancho2 - ancho) / 2;
+    for (TrazoCroquis& t : trazos)
+        for (PuntoCroquis& p : t.puntos)
+            p.x += dx;
+    ancho = ancho2;
+}
+
 }  // namespace vardena

@@ -23,6 +23,8 @@ enum class PapelCroquis {
     Cota,        // a dimension
     Carga,       // a load on the ground
     Ausente,     // a member a scheme shows where the structure has none: dashed, faint
+    Resalte,     // a part of a plan set off from the rest: a drop panel, a chosen band of a slab
+    Armadura,    // a reinforcing bar
 };
 
 enum class FiguraCroquis {
@@ -52,6 +54,9 @@ struct Croquis {
     void Cota(PuntoCroquis a, PuntoCroquis b, std::string texto);
     void Flecha(PapelCroquis papel, PuntoCroquis desde, PuntoCroquis hasta);
     void Texto(PapelCroquis papel, PuntoCroquis en, std::string texto);
+    // Widens the picture to at least `proporcion` times its height, the drawing centred in it,
+    // so that a plan that is nearly square takes a band of the window as low as the others.
+    void Apaisa(double proporcion);
 };
 
 }  // namespace vardena

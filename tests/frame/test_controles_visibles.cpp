@@ -218,8 +218,8 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmForjSitu", "ChVigDer", -1, Kind::CheckBox, "Voladizo o viga continua a la derecha"},
         // The two-way panels: the waffle slab's own depths over the spans of both.
         {"frmForjRet", "txtForj", 4, Kind::TextBox, "Canto total (cm)"},
-        {"frmForjRet", "txtForj", 12, Kind::TextBox, "Longitud 12 (m)"},
-        {"frmForMaci", "txtMf", 7, Kind::TextBox, "Coef. seguridad flector 7"},
+        {"frmForjRet", "txtForj", 12, Kind::TextBox, "Vuelo X (m)"},
+        {"frmForMaci", "txtMf", 7, Kind::TextBox, "Centro"},
         {"frmForMaci", "OpPosPil", 2, Kind::OptionButton, "Esquina"},
         {"frmAbaco", "OpPosPil", 2, Kind::OptionButton, "esquina"},
         {"frmAbaco", "ChPun", 1, Kind::CheckBox, "Fila de punzonamiento 1"},
@@ -229,7 +229,8 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmMensCorta", "TxCota", 6, Kind::TextBox, "Luz viga (cm)"},
         {"frmVigPared", "TxtRes2", -1, Kind::TextBox, "Aramduras"},
         {"frmVigPared", "TxtPil", 0, Kind::TextBox, "Canto pilar izquierdo (cm)"},
-        {"frmEscHorm", "OptH2izqI", 2, Kind::OptionButton, "Extremo izquierdo inferior 2"},
+        {"frmEscMet", "OptH2izqI", 1, Kind::OptionButton, "Extremo izquierdo inferior 1"},
+        {"frmEscHorm", "OptH2izqI", 2, Kind::OptionButton, "Inferior empotrado"},
         {"frmEscHorm", "TxtRes1", 1, Kind::TextBox, "Cortante"},
         // Stairs of concrete and of steel share their lengths and ends; light floors their spans.
         {"frmEscMet", "TxCotaDesc", 4, Kind::TextBox, "Longitud escalera con descanso (m)"},
