@@ -1,6 +1,7 @@
 // Stored fields of the concrete element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include "concrete/ForjUnid.h"
 #include "concrete/PilHorm.h"
 #include "concrete/VigHorm.h"
 #include "frame/Campos.h"
@@ -118,6 +119,42 @@ constexpr GrupoDef kGruposPilHorm[] = {
     {"UCframeCercos", 0, kPilarCercos, "", 2},
     {"UCframeRes", 0, kPilarResultados, "", 2},
 };
+
+// The one-way slab's window: the exposure and partitions, the slab kind with its sheet, the
+// section drawn beside its depths, the sheet's row, the stretch drawn beside its lengths, the
+// loads and the reinforcement. The cast-in-place sibling has no kind and no sheet.
+constexpr std::string_view kForjUnidDatos[] = {"CmbAmbGral", "CmbAmbEspec", "Combo1"};
+constexpr std::string_view kForjSituDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart"};
+constexpr std::string_view kForjTipo[] = {"cmbTipoFor", "OpSiNo(0)", "OpSiNo(1)", "ListViguetas", "UCFicha", "TxNumFor", "TxNumVig"};
+constexpr std::string_view kForjSeccion[] = {"PctSeccion", "PtFor", "txtForj"};
+constexpr std::string_view kForjFicha[] = {"TXFnombre", "TXFmod",  "TXFbeta",  "TXFmomUlt", "TXFrig",   "TXFrigfis", "TXFMo",
+                                           "TXFMop",    "TXFMo2",  "TXFcort1", "TXFcort2",  "TXFcort3", "TXFras",    "txtBeta"};
+constexpr std::string_view kForjTramo[] = {"PctTramo", "lblTramo", "OpTramo", "TxCota(1)", "TxCota(0)", "TxCota(2)", "TxCota(3)",
+                                           "TxTrAd", "ChVigIzq", "ChVigDer", "ChMacizadoIzq", "ChMacizadoDer", "TxtPil"};
+constexpr std::string_view kForjCargas[] = {"TxtQ"};
+constexpr std::string_view kForjArmado[] = {"UCMall", "UCArVig", "ChArV", "TxLv", "ChMas1", "ChMas2", "OpPosit", "OpAncho"};
+constexpr std::string_view kForjCortante[] = {"cmbCercos", "OpCort", "UCArCer"};
+constexpr GrupoDef kGruposForjUnid[] = {
+    {"UCframeDatosForj", 0, kForjUnidDatos, {}, 0}, {"UCframeTipoForj", 0, kForjTipo, {}, 0},
+    {"UCframeCargasForj", 0, kForjCargas, {}, 0},   {"UCframeSeccionForj", 0, kForjSeccion, {}, 1},
+    {"UCframeTramoForj", 0, kForjTramo, {}, 1},     {"UCframeFichaForj", 0, kForjFicha, {}, 2},
+    {"UCframeArmadoForj", 0, kForjArmado, {}, 2},   {"UCframeCortanteForj", 0, kForjCortante, {}, 2},
+};
+constexpr GrupoDef kGruposForjSitu[] = {
+    {"UCframeDatosForj", 0, kForjSituDatos, {}, 0}, {"UCframeCargasForj", 0, kForjCargas, {}, 0},
+    {"UCframeSeccionForj", 0, kForjSeccion, {}, 1}, {"UCframeTramoForj", 0, kForjTramo, {}, 1},
+    {"UCframeArmadoForj", 0, kForjArmado, {}, 2},   {"UCframeCortanteForj", 0, kForjCortante, {}, 2},
+};
+// Their frames.
+const std::vector<ControlVisible>& MarcosForjado()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "UCframeDatosForj", -1, "Datos iniciales"}, {kFr, "UCframeCargasForj", -1, "Cargas (kg/m2)"},
+        {kFr, "UCframeSeccionForj", -1, "Dimensiones en cm."}, {kFr, "UCframeTramoForj", -1, "Tramo"},
+        {kFr, "UCframeArmadoForj", -1, "Armado"}, {kFr, "UCframeCortanteForj", -1, "Cortante"},
+    };
+    return filas;
+}
 
 constexpr CampoDef kCamposFrmForjUnid[] = {
     {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
@@ -328,7 +365,7 @@ std::span<const TablaForm> TablasHormigon()
          Listas{{"cmbTipoFor", -1, kTipoForjado}, {"cmbCercos", -1, kCortanteUnidireccional}} + ListasForjado() + ListasExposicion() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::MomentoKg, Magnitud::MomentoKg, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros, true,
          // The joist slab: with a catalogue sheet or by its dimensions, and the sheet's chosen row.
-         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga, MarcosForjado}, {
              {kCb, "Combo1", -1, "Partición"},
              {kCb, "cmbTipoFor", -1, "Tipo forjado"},
              {kOp, "OpSiNo", -1, "Datos de fichas"},
@@ -356,8 +393,16 @@ std::span<const TablaForm> TablasHormigon()
              {kOp, "OpAncho", -1, "Opción de ancho #"},
              {kTx, "txtBeta", -1, "Coeficiente β"},
              {kTx, "Text1", -1, "Texto auxiliar"},
+             {Kind::ListBox, "ListViguetas", -1, ""},
+             {kBt, "UCFicha", -1, "Fichas forjados"},
+             {kPc, "PtFor", 0, ""}, {kPc, "PtFor", 1, ""}, {kPc, "PtFor", 2, ""},
+             {kPc, "PctFicha", -1, ""}, {kPc, "PctnoFicha", -1, ""},
+             {kPc, "PctCotaTrAdy", 0, ""}, {kPc, "PctCotaTrAdy", 1, ""},
+             {kLb, "lblTramo", -1, "Aislado"},
+             {kPc, "PctSeccion", -1, ""}, {kPc, "PctTramo", -1, ""},
+             {kFr, "UCframeTipoForj", -1, "Tipo forjado"}, {kFr, "UCframeFichaForj", -1, "Datos de fichas"},
          }),
-         MenuDef{"Hormigon", 4, "Forjado_Unidireccional", "Forjado Unidireccional"}},
+         MenuDef{"Hormigon", 4, "Forjado_Unidireccional", "Forjado Unidireccional"}, kGruposForjUnid, &CreaDe<ForjUnid>},
         {"frmForjSitu", kCamposFrmForjSitu,
          // Reasoned title, after the one-way slab's.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -366,10 +411,13 @@ std::span<const TablaForm> TablasHormigon()
          // of the one-way slab's Combo1.
          Listas{{"cmbCercos", -1, kCortanteInSitu}, {"cmbPart", -1, kParticionMuros}} + ListasExposicion() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros, true,
-         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga, MarcosForjado}, {
              {kTx, "txtV", -1, "Valor auxiliar #"},
+             {kPc, "PctCotaTrAdy", 0, ""}, {kPc, "PctCotaTrAdy", 1, ""},
+             {kLb, "lblTramo", -1, "Aislado"},
+             {kPc, "PctSeccion", -1, ""}, {kPc, "PctTramo", -1, ""},
          }),
-         MenuDef{"Hormigon", 5, "mnuForjSitu", "Forjado in situ"}},
+         MenuDef{"Hormigon", 5, "mnuForjSitu", "Forjado in situ"}, kGruposForjSitu, &CreaDe<ForjUnid>},
         {"frmForjRet", kCamposFrmForjRet,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet,

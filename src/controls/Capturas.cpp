@@ -55,7 +55,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
     menu->close();
     const std::pair<const char*, const char*> ventanas[] = {
         {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
-        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}};
+        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"FORU", "20-frmForjUnid"},
+        {"FORS", "21-frmForjSitu"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)
@@ -109,6 +110,16 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         escritas.push_back(Fotografia(v, carpeta, std::to_string(n++) + "-frmHormigon"));
         v->alCerrar = nullptr;
         v->close();
+    }
+    // The slab catalogue editor on the second row of the third system of prestressed joists.
+    if (std::unique_ptr<Form> fichas = CargaForm(programa.app().decl, "frmForjUnid2")) {
+        fichas->At("OpTipoFor", 1).SetOptionValue(true);
+        if (fichas->At("ListFor").ListCount() > 3)
+            fichas->At("ListFor").SetListIndex(2);
+        fichas->At("OpFila", 1).SetOptionValue(true);
+        std::unique_ptr<QDialog> d = CreaDialogo(*fichas, nullptr);
+        escritas.push_back(Fotografia(d.get(), carpeta, "22-frmForjUnid2"));
+        d->hide();
     }
     DatosError e;
     e.numero = 75;
