@@ -78,13 +78,21 @@ void ForjUnid::CargaPropia()
             lista.AddItem("Vigueta v" + std::to_string(i));
         if (At("cmbTipoFor").ListIndex() < 0)
             At("cmbTipoFor").SetListIndex(0);
+        // A new slab is given by its dimensions until a sheet is chosen.
+        if (!At("OpSiNo", 0).OptionValue() && !At("OpSiNo", 1).OptionValue())
+            At("OpSiNo", 1).SetOptionValue(true);
         cmbTipoFor_Click();
         OpSiNo_Click();
     }
-    int tramo = 0;
+    int tramo = -1;
     for (int i = 0; i < 6; ++i)
         if (Control* c = Find("OpTramo", i); c && c->OptionValue())
             tramo = i;
+    // A new stretch stands isolated until its position is chosen.
+    if (tramo < 0) {
+        tramo = 0;
+        At("OpTramo", 0).SetOptionValue(true);
+    }
     const bool carga = decl().Cargando != kFalse;
     // The stretch's pictures follow what the form holds; its continuity checks stay as stored.
     decl().Cargando = kFalse;
@@ -253,7 +261,7 @@ std::optional<Croquis> ForjUnid::CroquisDe(const Control& picture) const
         const double bov = std::clamp(valor("txtForj", 2), 0.0, 60.0), capa = std::clamp(valor("txtForj", 3), 0.0, 20.0);
         const int tipo = variante_.conFicha ? std::max(0, At("cmbTipoFor").ListIndex()) : 0;
         Croquis c;
-        c.ancho = static_cast<int>(2 * eje * k) + 2 * margen;
+        c.ancho = static_cast<int>(2 * eje * k) + 2 * margen + 400;
         c.alto = static_cast<int>((bov + capa) * k) + 2 * margen + 300;
         const int y0 = margen, yCapa = y0 + static_cast<int>(capa * k), yFondo = yCapa + static_cast<int>(bov * k);
         const int x0 = margen, x1 = x0 + static_cast<int>(2 * eje * k);
@@ -288,12 +296,12 @@ std::optional<Croquis> ForjUnid::CroquisDe(const Control& picture) const
             if (Control* o = Find("OpTramo", i); o && o->OptionValue())
                 tramo = i;
         const PosicionTramo& p = kPosiciones[tramo];
-        constexpr int yLosa = 700, canto = 120, ancho = 6400, x0 = 1600, x1 = 4800;
+        constexpr int yLosa = 450, canto = 120, ancho = 4400, x0 = 1100, x1 = 3300;
         Croquis c;
         c.ancho = ancho;
-        c.alto = 1500;
+        c.alto = 1350;
         const bool volIzq = tramo == 4, volDer = tramo == 5;
-        const int izq = p.adyIzq ? 150 : volIzq ? 800 : x0, der = p.adyDer ? ancho - 150 : volDer ? ancho - 800 : x1;
+        const int izq = p.adyIzq ? 150 : volIzq ? 550 : x0, der = p.adyDer ? ancho - 150 : volDer ? ancho - 550 : x1;
         c.Rectangulo(PapelCroquis::Hormigon, izq, yLosa - canto / 2, der, yLosa + canto / 2);
         for (int x : {x0, x1})
             c.Rectangulo(PapelCroquis::Hormigon, x - 80, yLosa + canto / 2, x + 80, yLosa + canto / 2 + 350);
@@ -301,17 +309,16 @@ std::optional<Croquis> ForjUnid::CroquisDe(const Control& picture) const
             c.Rectangulo(PapelCroquis::Hormigon, 150, yLosa + canto / 2, 310, yLosa + canto / 2 + 350);
         if (p.adyDer)
             c.Rectangulo(PapelCroquis::Hormigon, ancho - 310, yLosa + canto / 2, ancho - 150, yLosa + canto / 2 + 350);
-        const int yCota = yLosa + canto / 2 + 550;
+        const int yCota = yLosa + canto / 2 + 600;
         c.Cota({x0, yCota}, {x1, yCota}, "L=" + At("TxCota", 1).Text());
         if (p.adyIzq)
             c.Cota({230, yCota}, {x0, yCota}, At("TxTrAd", 0).Text());
         if (p.adyDer)
             c.Cota({x1, yCota}, {ancho - 230, yCota}, At("TxTrAd", 1).Text());
         if (volIzq)
-            c.Cota({800, yCota}, {x0, yCota}, At("TxCota", 0).Text());
+            c.Cota({550, yCota}, {x0, yCota}, At("TxCota", 0).Text());
         if (volDer)
-            c.Cota({x1, yCota}, {ancho - 800, yCota}, At("TxCota", 0).Text());
-        c.Texto(PapelCroquis::Cota, {ancho / 2, 200}, Find("lblTramo") ? Find("lblTramo")->Caption() : std::string());
+            c.Cota({x1, yCota}, {ancho - 550, yCota}, At("TxCota", 0).Text());
         return c;
     }
     return std::nullopt;

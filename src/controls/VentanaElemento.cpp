@@ -142,7 +142,8 @@ private:
         const QPointF medio = (a + b) / 2;
         const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
         const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 18, 18) : QRectF(medio.x() - 9, medio.y() - 17, 18, 16);
-        p.drawText(caja, Qt::AlignCenter, texto);
+        // A text longer than its box stands whole, centred on it.
+        p.drawText(caja, Qt::AlignCenter | Qt::TextDontClip, texto);
     }
 
     const ElementForm& form_;
