@@ -21,7 +21,6 @@ constexpr int kMsgGuardaNuevo = 1623;        // "Antes de añadir más forjados,
 constexpr int kMsgSeleccione = 1624;         // "Tiene que seleccionar un forjado de la lista"
 
 constexpr std::string_view kGeometria[] = {"TXFanchoVig", "TXFintereje", "TXFcantoBov", "TXFcompr"};
-constexpr std::string_view kRotulosGeometria[] = {"Ancho vigueta", "Intereje", "Canto bovedilla", "Capa compresión"};
 constexpr std::string_view kRotulosFicha[kColumnasFicha] = {
     "Módulo resistente (cm3/m)", "b", "Momento último (m·kN/m)", "E·Ih", "E·Ifis", "Mo", "Mo'", "Mo2",
     "Vu (1)", "Vu (2)", "Vu (3)", "Rasante Vu"};
@@ -58,19 +57,19 @@ FrmForjUnid2::FrmForjUnid2(Declaraciones& d) : Form(d, "frmForjUnid2", "Fichas F
     }
     Add(Kind::ListBox, "ListFor").onClick = [this](Control&) { Evento("ListFor_Click", [&] { ListFor_Click(); }); };
     Add(Kind::Frame, "UCframeForjado").SetCaption("Forjado");
-    Add(Kind::TextBox, "TxFor").tag = "Nombre";
-    for (size_t i = 0; i < std::size(kGeometria); ++i)
-        Add(Kind::TextBox, std::string(kGeometria[i])).tag = std::string(kRotulosGeometria[i]);
-    Add(Kind::TextBox, "Nlin").tag = "nº líneas medición";
+    Add(Kind::TextBox, "TxFor");
+    for (std::string_view g : kGeometria)
+        Add(Kind::TextBox, std::string(g));
+    Add(Kind::TextBox, "Nlin");
     Add(Kind::TextBox, "TxIndice").SetVisible(false);
     Add(Kind::Frame, "UCframeFilas").SetCaption("Viguetas");
     for (int i = 0; i < kFilasFicha; ++i) {
         Control& op = Add(Kind::OptionButton, "OpFila", i);
         op.SetGroup("OpFila");
         op.SetCaption(std::to_string(i + 1));
-        Add(Kind::TextBox, "TXFnombre", i).tag = "Nombre";
-        for (size_t k = 0; k < kColumnasFicha; ++k)
-            Add(Kind::TextBox, std::string(kCamposFicha[k]), i).tag = std::string(kRotulosFicha[k]);
+        Add(Kind::TextBox, "TXFnombre", i);
+        for (std::string_view campo : kCamposFicha)
+            Add(Kind::TextBox, std::string(campo), i);
     }
     Add(Kind::Frame, "UCframeBotones");
     struct Boton {
