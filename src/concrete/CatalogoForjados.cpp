@@ -84,6 +84,14 @@ void Anade(std::string& bytes, std::string_view linea)
 
 void Caja(Declaraciones& d, const std::string& texto) { d.ui.MsgBox(texto, mb::Critical, "Error"); }
 
+// One pass of the message loop, where a window system runs one: the file system gets its pause
+// before each step of a replacement is checked.
+void Cede(Declaraciones& d)
+{
+    if (d.DoEvents)
+        d.DoEvents();
+}
+
 // A line by a template of blank-separated number fields, one value a field. A value that the
 // field's mask writes as blanks (a zero in "###") stands as "0", so that every field reads back.
 std::string PorPlantilla(std::string_view plantilla, std::span<const double> valores)
@@ -252,6 +260,7 @@ bool ReemplazaConPapelera(Declaraciones& d, const std::string& path, const std::
         return false;
     }
     std::error_code ec;
+    Cede(d);
     // A copy of the old file goes to the recycle bin under the file's own name, from a folder of
     // its own beside it, while the old file stays where it is until the rename.
     if (fs::exists(path, ec)) {
@@ -266,6 +275,7 @@ bool ReemplazaConPapelera(Declaraciones& d, const std::string& path, const std::
             return false;
         }
     }
+    Cede(d);
     try {
         CompletaReemplazo(tmp, path);
         SyncFolder(fs::path(path).parent_path().string());
@@ -273,6 +283,7 @@ bool ReemplazaConPapelera(Declaraciones& d, const std::string& path, const std::
         Caja(d, d.Msg(kMsgNoSeCopio) + ": " + e.what());
         return false;
     }
+    Cede(d);
     if (fs::exists(tmp, ec)) {
         Caja(d, d.Msg(kMsgNoSeBorroCopia) + ": " + tmp);
         return false;

@@ -84,28 +84,24 @@ void ForjUnid::CargaPropia()
         cmbTipoFor_Click();
         OpSiNo_Click();
     }
-    int tramo = -1;
-    for (int i = 0; i < 6; ++i)
-        if (Control* c = Find("OpTramo", i); c && c->OptionValue())
-            tramo = i;
+    int tramo = Tramo();
     // A new stretch stands isolated until its position is chosen.
     if (tramo < 0) {
         tramo = 0;
         At("OpTramo", 0).SetOptionValue(true);
     }
-    const bool carga = decl().Cargando != kFalse;
-    // The stretch's pictures follow what the form holds; its continuity checks stay as stored.
-    decl().Cargando = kFalse;
-    const int vigIzq = At("ChVigIzq").CheckValue(), vigDer = At("ChVigDer").CheckValue();
     OpTramo_Click(tramo);
-    if (carga) {
-        At("ChVigIzq").SetCheckValue(vigIzq);
-        At("ChVigDer").SetCheckValue(vigDer);
-    }
     luz_ = Numero(At("TxCota", 1));
     CmbHorm_Click();
     CmbPlanta_Click();
-    decl().Cargando = carga ? kTrue : kFalse;
+}
+
+int ForjUnid::Tramo() const
+{
+    for (int i = 0; i < static_cast<int>(std::size(kPosiciones)); ++i)
+        if (Control* c = Find("OpTramo", i); c && c->OptionValue())
+            return i;
+    return -1;
 }
 
 void ForjUnid::CmbHorm_Click()
@@ -291,10 +287,7 @@ std::optional<Croquis> ForjUnid::CroquisDe(const Control& picture) const
     }
     if (picture.Name() == "PctTramo") {
         // The stretch between its bearings, with the spans beside it where its position has them.
-        int tramo = 0;
-        for (int i = 0; i < 6; ++i)
-            if (Control* o = Find("OpTramo", i); o && o->OptionValue())
-                tramo = i;
+        const int tramo = std::max(0, Tramo());
         const PosicionTramo& p = kPosiciones[tramo];
         constexpr int yLosa = 450, canto = 120, ancho = 4400, x0 = 1100, x1 = 3300;
         Croquis c;

@@ -61,6 +61,8 @@ protected:
 
 private:
     static const VarianteForjado& VarianteDe(std::string_view nombre);
+    // The chosen stretch position (OpTramo index); -1 when none is chosen.
+    int Tramo() const;
     std::string RutaViguetas() const;
 
     const VarianteForjado& variante_;
