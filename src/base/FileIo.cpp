@@ -125,29 +125,7 @@ void WriteReplacement(const std::string& fresh, const fs::path& target, std::str
 // Writes a new temporary file and renames it over `path`, through the seam.
 void ReplaceThroughTemporary(const std::string& path, std::string_view bytes)
 {
-    fs::path target(path);
-    fs::path folder = target.parent_path();
-    if (folder.empty())
-        folder = ".";
-    std::error_code ec;
-    if (!fs::is_directory(folder, ec))
-        throw FileError(path, "its folder does not exist");
-    const std::optional<mode_t> mode = CheckReplaceable(target);
-    std::string tmp;
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        tmp = (folder / (".vardena-" + RandomHex(12) + ".tmp")).string();
-        if (!fs::exists(tmp, ec))
-            break;
-    }
-    WriteReplacement(tmp, target, bytes, true, mode);
-    auto& seam = Seam();
-    errno = 0;
-    bool renamed = seam.rename ? seam.rename(tmp, path) : RealRename(tmp, path);
-    if (!renamed) {
-        int err = errno;
-        fs::remove(tmp, ec);
-        throw FileError(path, "cannot be replaced" + ErrnoText(err));
-    }
+    CompletaReemplazo(PreparaReemplazo(path, bytes), path);
 }
 
 }  // namespace
@@ -197,6 +175,39 @@ std::optional<std::string> ReadFileIfExists(const std::string& path)
     if (!fs::exists(path, ec))
         return std::nullopt;
     return ReadFileBytes(path);
+}
+
+std::string PreparaReemplazo(const std::string& path, std::string_view bytes)
+{
+    fs::path target(path);
+    fs::path folder = target.parent_path();
+    if (folder.empty())
+        folder = ".";
+    std::error_code ec;
+    if (!fs::is_directory(folder, ec))
+        throw FileError(path, "its folder does not exist");
+    const std::optional<mode_t> mode = CheckReplaceable(target);
+    std::string tmp;
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        tmp = (folder / (".vardena-" + RandomHex(12) + ".tmp")).string();
+        if (!fs::exists(tmp, ec))
+            break;
+    }
+    WriteReplacement(tmp, target, bytes, true, mode);
+    return tmp;
+}
+
+void CompletaReemplazo(const std::string& tmp, const std::string& path)
+{
+    std::error_code ec;
+    auto& seam = Seam();
+    errno = 0;
+    bool renamed = seam.rename ? seam.rename(tmp, path) : RealRename(tmp, path);
+    if (!renamed) {
+        int err = errno;
+        fs::remove(tmp, ec);
+        throw FileError(path, "cannot be replaced" + ErrnoText(err));
+    }
 }
 
 void WriteFileAtomic(const std::string& path, std::string_view bytes)

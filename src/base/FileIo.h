@@ -36,6 +36,15 @@ std::optional<std::string> ReadFileIfExists(const std::string& path);
 // on failure the old file is untouched and no temporary file is left behind.
 void WriteFileAtomic(const std::string& path, std::string_view bytes);
 
+// A replacement in two steps, for callers that act between the writing and the rename (the slab
+// catalogues send a copy of the old file to the recycle bin there). PreparaReemplazo writes
+// `bytes` to a new temporary file beside `path`, flushed to the disk, through the seam, and
+// returns its path; nothing of `path` changes. CompletaReemplazo renames it over `path` through
+// the seam; on failure the temporary file is removed and `path` is as it was. Both throw
+// FileError. Neither goes through a staging area.
+std::string PreparaReemplazo(const std::string& path, std::string_view bytes);
+void CompletaReemplazo(const std::string& tmp, const std::string& path);
+
 // The seam under WriteFileAtomic, so that tests can make a write, flush or rename fail.
 struct FileSystemSeam {
     std::function<bool(const std::string& tmp, std::string_view bytes)> write;

@@ -5,6 +5,7 @@
 
 #include "concrete/Abaco.h"
 #include "concrete/EscHorm.h"
+#include "concrete/ForjUnid.h"
 #include "concrete/Losas.h"
 #include "concrete/MensCorta.h"
 #include "concrete/PilHorm.h"
@@ -160,6 +161,52 @@ constexpr GrupoDef kGruposPilHorm[] = {
     {"UCframeCercos", 0, kPilarCercos, "", 2},
     {"UCframeRes", 0, kPilarResultados, "", 2},
 };
+
+// The one-way slab's window: the exposure and partitions, the slab kind with its sheet, the
+// section drawn beside its depths, the sheet's row, the stretch drawn beside its lengths, the
+// loads and the reinforcement. The cast-in-place sibling has no kind and no sheet.
+constexpr std::string_view kForjUnidDatos[] = {"CmbAmbGral", "CmbAmbEspec", "Combo1"};
+constexpr std::string_view kForjSituDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart"};
+constexpr std::string_view kForjTipo[] = {"cmbTipoFor", "OpSiNo(0)", "OpSiNo(1)", "ListViguetas", "UCFicha", "TxNumFor", "TxNumVig"};
+constexpr std::string_view kForjSeccion[] = {"PctSeccion", "txtForj"};
+constexpr std::string_view kForjFicha[] = {"TXFnombre", "TXFmod", "TXFbeta", "TXFmomUlt", "TXFrig", "TXFrigfis"};
+constexpr std::string_view kForjFichaServicio[] = {"TXFMo", "TXFMop", "TXFMo2", "txtBeta"};
+constexpr std::string_view kForjFichaCortante[] = {"TXFcort1", "TXFcort2", "TXFcort3", "TXFras"};
+constexpr std::string_view kForjTramo[] = {"PctTramo", "lblTramo", "OpTramo", "TxCota(1)", "TxCota(0)", "TxCota(2)", "TxCota(3)",
+                                           "TxTrAd", "ChVigIzq", "ChVigDer", "ChMacizadoIzq", "ChMacizadoDer", "TxtPil"};
+constexpr std::string_view kForjCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(7)", "TxtQ(8)", "TxtQ(9)"};
+constexpr std::string_view kForjOtrasCargas[] = {"TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(3)", "TxtQ(4)"};
+constexpr std::string_view kForjArmado[] = {"UCMall", "UCArVig", "ChArV", "TxLv", "ChMas1", "ChMas2", "OpPosit", "OpAncho"};
+constexpr std::string_view kForjCortante[] = {"cmbCercos", "OpCort", "UCArCer"};
+constexpr GrupoDef kGruposForjUnid[] = {
+    {"UCframeDatosForj", 0, kForjUnidDatos, {}, 0}, {"UCframeTipoForj", 0, kForjTipo, {}, 0},
+    {"UCframeCargasForj", 0, kForjCargas, {}, 0},   {"UCframeOtrasCargasForj", 0, kForjOtrasCargas, {}, 0},
+    {"UCframeSeccionForj", 0, kForjSeccion, {}, 1}, {"UCframeTramoForj", 0, kForjTramo, {}, 1},     {"UCframeFichaForj", 0, kForjFicha, {}, 2},
+    {"UCframeServicioForj", 0, kForjFichaServicio, {}, 2}, {"UCframeCorteForj", 0, kForjFichaCortante, {}, 2},
+    {"UCframeArmadoForj", 0, kForjArmado, {}, 2},   {"UCframeCortanteForj", 0, kForjCortante, {}, 2},
+};
+constexpr GrupoDef kGruposForjSitu[] = {
+    {"UCframeDatosForj", 0, kForjSituDatos, {}, 0}, {"UCframeCargasForj", 0, kForjCargas, {}, 0},
+    {"UCframeOtrasCargasForj", 0, kForjOtrasCargas, {}, 0},
+    {"UCframeSeccionForj", 0, kForjSeccion, {}, 1}, {"UCframeTramoForj", 0, kForjTramo, {}, 1},
+    {"UCframeArmadoForj", 0, kForjArmado, {}, 2},   {"UCframeCortanteForj", 0, kForjCortante, {}, 2},
+};
+// Their frames, the parts of the depth and the positions of the stretch.
+const std::vector<ControlVisible>& MarcosForjado()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "UCframeDatosForj", -1, "Datos iniciales"}, {kFr, "UCframeCargasForj", -1, "Cargas por superficie"},
+        {kFr, "UCframeOtrasCargasForj", -1, "Cargas lineales y momentos"},
+        {kFr, "UCframeSeccionForj", -1, "Dimensiones en cm."}, {kFr, "UCframeTramoForj", -1, "Tramo"},
+        {kFr, "UCframeArmadoForj", -1, "Armado"}, {kFr, "UCframeCortanteForj", -1, "Cortante"},
+        {kTx, "txtForj", 0, "Ancho vigueta"}, {kTx, "txtForj", 1, "Intereje"}, {kTx, "txtForj", 2, "Canto bovedilla"},
+        {kTx, "txtForj", 3, "Capa compresión"}, {kTx, "txtForj", 4, "Canto total"},
+        {kOp, "OpTramo", 0, "Tramo aislado"}, {kOp, "OpTramo", 1, "Continuo, extremo izq."},
+        {kOp, "OpTramo", 2, "Continuo, extremo der."}, {kOp, "OpTramo", 3, "Continuo, interior"},
+        {kOp, "OpTramo", 4, "Aislado, voladizo izq."}, {kOp, "OpTramo", 5, "Aislado, voladizo der."},
+    };
+    return filas;
+}
 
 constexpr CampoDef kCamposFrmForjUnid[] = {
     {"CmbAmbEspec", {}, kLista}, {"CmbAmbGral", {}, kLista}, {"Combo1", {}, kLista}, {"cmbControl", {}, kLista},
@@ -522,7 +569,7 @@ std::span<const TablaForm> TablasHormigon()
          Listas{{"cmbTipoFor", -1, kTipoForjado}, {"cmbCercos", -1, kCortanteUnidireccional}} + ListasForjado() + ListasExposicion() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::MomentoKg, Magnitud::MomentoKg, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros, true,
          // The joist slab: with a catalogue sheet or by its dimensions, and the sheet's chosen row.
-         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga, MarcosForjado}, {
              {kCb, "Combo1", -1, "Partición"},
              {kCb, "cmbTipoFor", -1, "Tipo forjado"},
              {kOp, "OpSiNo", -1, "Datos de fichas"},
@@ -532,15 +579,15 @@ std::span<const TablaForm> TablasHormigon()
              {kTx, "TXFmod", -1, "Módulo resistente (cm3/m)"},
              {kTx, "TXFbeta", -1, "β de la ficha"},
              {kTx, "TXFmomUlt", -1, "Momento último (m·kN/m)"},
-             {kTx, "TXFrig", -1, "Rigidez E·Ih (m2·kN/m)"},
-             {kTx, "TXFrigfis", -1, "Rigidez E·Ifis (m2·kN/m)"},
-             {kTx, "TXFMo", -1, "Momento servicio Mo (m·kN/m)"},
-             {kTx, "TXFMop", -1, "Momento servicio Mo' (m·kN/m)"},
-             {kTx, "TXFMo2", -1, "Momento servicio Mo2 (m·kN/m)"},
-             {kTx, "TXFcort1", -1, "Cortante Vu (1) (kN/m)"},
-             {kTx, "TXFcort2", -1, "Cortante Vu (2) (kN/m)"},
-             {kTx, "TXFcort3", -1, "Cortante Vu (3) (kN/m)"},
-             {kTx, "TXFras", -1, "Rasante Vu (kN/m)"},
+             {kTx, "TXFrig", -1, "E·Ih (m2·kN/m)"},
+             {kTx, "TXFrigfis", -1, "E·Ifis (m2·kN/m)"},
+             {kTx, "TXFMo", -1, "Mo"},
+             {kTx, "TXFMop", -1, "Mo'"},
+             {kTx, "TXFMo2", -1, "Mo2"},
+             {kTx, "TXFcort1", -1, "Vu (1)"},
+             {kTx, "TXFcort2", -1, "Vu (2)"},
+             {kTx, "TXFcort3", -1, "Vu (3)"},
+             {kTx, "TXFras", -1, "Rasante Vu"},
              {kTx, "TxNumVig", -1, "Nº de vigueta en la ficha"},
              {kTx, "TxNumFor", -1, "Nº de forjado en la ficha"},
              {kOp, "OpCort", 0, "Cortante máximo"},
@@ -550,8 +597,18 @@ std::span<const TablaForm> TablasHormigon()
              {kOp, "OpAncho", -1, "Opción de ancho #"},
              {kTx, "txtBeta", -1, "Coeficiente β"},
              {kTx, "Text1", -1, "Texto auxiliar"},
+             {Kind::ListBox, "ListViguetas", -1, ""},
+             {kBt, "UCFicha", -1, "Fichas forjados"},
+             {kPc, "PtFor", 0, ""}, {kPc, "PtFor", 1, ""}, {kPc, "PtFor", 2, ""},
+             {kPc, "PctFicha", -1, ""}, {kPc, "PctnoFicha", -1, ""},
+             {kPc, "PctCotaTrAdy", 0, ""}, {kPc, "PctCotaTrAdy", 1, ""},
+             {kLb, "lblTramo", -1, "Aislado"},
+             {kPc, "PctSeccion", -1, ""}, {kPc, "PctTramo", -1, ""},
+             {kFr, "UCframeTipoForj", -1, "Tipo forjado"}, {kFr, "UCframeFichaForj", -1, "Datos de fichas"},
+             {kFr, "UCframeServicioForj", -1, "Momento servicio según clase exp. (m·kN/m)"},
+             {kFr, "UCframeCorteForj", -1, "CORTANTE (kN/m)"},
          }),
-         MenuDef{"Hormigon", 4, "Forjado_Unidireccional", "Forjado Unidireccional"}},
+         MenuDef{"Hormigon", 4, "Forjado_Unidireccional", "Forjado Unidireccional"}, kGruposForjUnid, &CreaDe<ForjUnid>},
         {"frmForjSitu", kCamposFrmForjSitu,
          // Reasoned title, after the one-way slab's.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -560,10 +617,13 @@ std::span<const TablaForm> TablasHormigon()
          // of the one-way slab's Combo1.
          Listas{{"cmbCercos", -1, kCortanteInSitu}, {"cmbPart", -1, kParticionMuros}} + ListasExposicion() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Ninguna, Magnitud::Ninguna, Magnitud::Lineal, Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg}, Despacho::Registros, true,
-         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+         Visibles({EtiquetasForjado, EtiquetasContinuidad, EtiquetasPilaresViga, MarcosForjado}, {
              {kTx, "txtV", -1, "Valor auxiliar #"},
+             {kPc, "PctCotaTrAdy", 0, ""}, {kPc, "PctCotaTrAdy", 1, ""},
+             {kLb, "lblTramo", -1, "Aislado"},
+             {kPc, "PctSeccion", -1, ""}, {kPc, "PctTramo", -1, ""},
          }),
-         MenuDef{"Hormigon", 5, "mnuForjSitu", "Forjado in situ"}},
+         MenuDef{"Hormigon", 5, "mnuForjSitu", "Forjado in situ"}, kGruposForjSitu, &CreaDe<ForjUnid>},
         {"frmForjRet", kCamposFrmForjRet,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados Reticular", "Forjado Reticular 01", kRecubYPanelCentral, kMinimosForjRet,

@@ -57,7 +57,7 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
         {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"},
         {"FORR", "30-frmForjRet"}, {"FORP", "31-frmForMaci"}, {"ABAC", "32-frmAbaco"}, {"HMEN", "33-frmMensCorta"},
-        {"ESCH", "34-frmEscHorm"}};
+        {"ESCH", "34-frmEscHorm"}, {"FORU", "20-frmForjUnid"}, {"FORS", "21-frmForjSitu"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)
@@ -119,6 +119,16 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         escritas.push_back(Fotografia(v, carpeta, "35-frmForjRet-forjado"));
         v->alCerrar = nullptr;
         v->close();
+    }
+    // The slab catalogue editor on the second row of the third system of prestressed joists.
+    if (std::unique_ptr<Form> fichas = CargaForm(programa.app().decl, "frmForjUnid2")) {
+        fichas->At("OpTipoFor", 1).SetOptionValue(true);
+        if (fichas->At("ListFor").ListCount() > 3)
+            fichas->At("ListFor").SetListIndex(2);
+        fichas->At("OpFila", 1).SetOptionValue(true);
+        std::unique_ptr<QDialog> d = CreaDialogo(*fichas, nullptr);
+        escritas.push_back(Fotografia(d.get(), carpeta, "22-frmForjUnid2"));
+        d->hide();
     }
     DatosError e;
     e.numero = 75;

@@ -10,6 +10,8 @@
 
 #include "building/Mapas.h"
 #include "building/SistUnid.h"
+#include "concrete/ForjUnid2.h"
+#include "controls/DialogoFichas.h"
 #include "controls/DialogosMapas.h"
 #include "controls/Ventanas.h"
 #include "works/LngPack.h"
@@ -153,6 +155,8 @@ std::unique_ptr<QDialog> CreaDialogo(Form& form, QWidget* parent)
         return std::make_unique<DialogoSistUnid>(*s, parent);
     if (auto* m = dynamic_cast<DialogoAcciones*>(&form))
         return std::make_unique<DialogoMapas>(*m, parent);
+    if (auto* f = dynamic_cast<FrmForjUnid2*>(&form))
+        return std::make_unique<DialogoFichas>(*f, parent);
     return std::make_unique<VentanaDialogo>(form, Cerrado(form), parent);
 }
 

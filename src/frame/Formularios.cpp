@@ -4,6 +4,7 @@
 
 #include "building/DatosGen.h"
 #include "building/Mapas.h"
+#include "concrete/ForjUnid2.h"
 #include "concrete/Hormigon.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
@@ -35,6 +36,9 @@ const std::vector<FormPropio>& FormsPropios()
         // The calculator of concrete properties by age: no record, opened over the main window.
         {"frmHormigon", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmHormigon>(d); },
          GruposHormigon()},
+        // The slab catalogue editor, opened modally by the one-way slab.
+        {"frmForjUnid2", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmForjUnid2>(d); },
+         GruposForjUnid2()},
     };
     return propios;
 }

@@ -214,7 +214,7 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmForjSitu", "UCMall", 1, Kind::UCMallazo, "Mallazo"},
         {"frmForjUnid", "TxtRes4", -1, Kind::TextBox, "Vale canto"},
         {"frmForjUnid", "TXFmomUlt", -1, Kind::TextBox, "Momento último (m·kN/m)"},
-        {"frmForjUnid", "OpTramo", 3, Kind::OptionButton, "Posición del tramo 3"},
+        {"frmForjUnid", "OpTramo", 3, Kind::OptionButton, "Continuo, interior"},
         {"frmForjSitu", "ChVigDer", -1, Kind::CheckBox, "Voladizo o viga continua a la derecha"},
         // The two-way panels: the waffle slab's own depths over the spans of both.
         {"frmForjRet", "txtForj", 4, Kind::TextBox, "Canto total (cm)"},

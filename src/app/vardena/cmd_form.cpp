@@ -2,7 +2,9 @@
 // by its controls as a user would drive it: choose a title in List1, type into fields, press
 // buttons, read what the form shows.
 
+#include <algorithm>
 #include <cctype>
+#include <functional>
 #include <cstdio>
 #include <optional>
 #include <sstream>
@@ -76,6 +78,8 @@ struct Paso {
     Referencia control;
     std::string valor;
     int x = 0, y = 0;  // where --click presses
+    // The steps of the modal dialog this press or click opens (--dialog ... --end-dialog).
+    std::vector<Paso> dialogo = {};
 };
 
 // "X,Y" of --click: two whole numbers.
@@ -109,6 +113,8 @@ struct Opciones {
 bool LeeOpciones(const std::vector<std::string>& args, Opciones& o)
 {
     std::vector<std::string> sueltos;
+    // Where the steps go: the form's own, or those of the dialog the last press opens.
+    std::vector<Paso>* destino = &o.pasos;
     for (size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
         auto valor = [&](std::string& out) {
@@ -137,7 +143,7 @@ bool LeeOpciones(const std::vector<std::string>& args, Opciones& o)
             auto ref = LeeReferencia(v.substr(0, eq));
             if (!ref || (a == "--type" && !ref->propiedad.empty()))
                 return false;
-            o.pasos.push_back({a == "--set" ? Paso::Pon : Paso::Teclea, *ref, v.substr(eq + 1)});
+            destino->push_back({a == "--set" ? Paso::Pon : Paso::Teclea, *ref, v.substr(eq + 1)});
         } else if (a == "--click") {
             const size_t eq = valor(v) ? v.find('=') : std::string::npos;
             if (eq == std::string::npos)
@@ -147,15 +153,23 @@ bool LeeOpciones(const std::vector<std::string>& args, Opciones& o)
             if (!ref || !ref->propiedad.empty() || !LeePunto(v.substr(eq + 1), p.x, p.y))
                 return false;
             p.control = *ref;
-            o.pasos.push_back(p);
+            destino->push_back(p);
         } else if (a == "--press" || a == "--leave" || a == "--get") {
             auto ref = valor(v) ? LeeReferencia(v) : std::nullopt;
             if (!ref || (a != "--get" && !ref->propiedad.empty()))
                 return false;
             if (a != "--get")
-                o.pasos.push_back({a == "--press" ? Paso::Pulsa : Paso::Deja, *ref, {}});
+                destino->push_back({a == "--press" ? Paso::Pulsa : Paso::Deja, *ref, {}});
             else
                 o.lecturas.push_back(*ref);
+        } else if (a == "--dialog") {
+            if (destino != &o.pasos || o.pasos.empty() || (o.pasos.back().tipo != Paso::Pulsa && o.pasos.back().tipo != Paso::Pincha))
+                return false;
+            destino = &o.pasos.back().dialogo;
+        } else if (a == "--end-dialog") {
+            if (destino == &o.pasos)
+                return false;
+            destino = &o.pasos;
         } else if (a.rfind("--", 0) == 0) {
             return false;
         } else {
@@ -343,48 +357,83 @@ int CmdForm(Aplicacion& app, const std::vector<std::string>& args)
         list->SetListIndex(fila);
     }
 
-    for (const Paso& p : o.pasos) {
-        std::string problema;
-        Control* c = Busca(*form, p.control, problema);
-        if (!c)
-            return Fail(problema);
-        if (p.tipo == Paso::Teclea) {
-            if (c->kind() != Kind::TextBox)
-                return Fail(c->Label() + " is a " + std::string(KindName(c->kind())) + ": only a text box is typed into");
-            // Each key as the user's: the field's key handler may swallow it (0) or change it;
-            // what passes goes at the end of the text, which raises the field's Change.
-            for (const char ch : p.valor) {
-                const int tecla = c->KeyPress(static_cast<unsigned char>(ch));
-                if (tecla != 0)
-                    c->SetText(c->Text() + static_cast<char>(tecla));
+    // A press that opens a modal dialog runs the dialog's steps on it; without steps the
+    // dialog closes at once with nothing chosen, as where no window system runs.
+    std::string fallo;
+    const std::vector<Paso>* pendiente = nullptr;  // the steps of the dialog the current press opens
+    bool dialogoBien = true;
+    std::function<bool(Form&, const std::vector<Paso>&)> ejecuta;
+    const bool conDialogos = std::any_of(o.pasos.begin(), o.pasos.end(), [](const Paso& p) { return !p.dialogo.empty(); });
+    if (conDialogos)
+        d.MuestraDialogo = [&](Form& dlg) {
+            const std::vector<Paso>* pasos = pendiente;
+            pendiente = nullptr;
+            if (pasos && !ejecuta(dlg, *pasos))
+                dialogoBien = false;
+        };
+    ejecuta = [&](Form& f, const std::vector<Paso>& pasos) {
+        for (const Paso& p : pasos) {
+            std::string problema;
+            Control* c = Busca(f, p.control, problema);
+            if (!c) {
+                fallo = problema;
+                return false;
             }
-            continue;
+            if (p.tipo == Paso::Teclea) {
+                if (c->kind() != Kind::TextBox) {
+                    fallo = c->Label() + " is a " + std::string(KindName(c->kind())) + ": only a text box is typed into";
+                    return false;
+                }
+                // Each key as the user's: the field's key handler may swallow it (0) or change it;
+                // what passes goes at the end of the text, which raises the field's Change.
+                for (const char ch : p.valor) {
+                    const int tecla = c->KeyPress(static_cast<unsigned char>(ch));
+                    if (tecla != 0)
+                        c->SetText(c->Text() + static_cast<char>(tecla));
+                }
+                continue;
+            }
+            if (p.tipo != Paso::Pon) {
+                d.UltimoGuardadoRechazado.clear();
+                d.UltimoErrorDatos.clear();
+                pendiente = p.dialogo.empty() ? nullptr : &p.dialogo;
+                dialogoBien = true;
+                if (p.tipo == Paso::Pincha)
+                    c->ClickAt(p.x, p.y);
+                else if (p.tipo == Paso::Deja)
+                    c->LostFocus();
+                else
+                    c->Click();
+                pendiente = nullptr;
+                if (!dialogoBien)
+                    return false;
+                // A save the form refused, or general data that could not be written, has told why
+                // on standard error; nothing was written.
+                if (!d.UltimoGuardadoRechazado.empty() || !d.UltimoErrorDatos.empty()) {
+                    fallo = "-";
+                    return false;
+                }
+                continue;
+            }
+            const std::string prop = p.control.propiedad.empty() ? PropiedadPorDefecto(*c) : p.control.propiedad;
+            if (prop.empty()) {
+                fallo = c->Label() + " is a " + std::string(KindName(c->kind())) + ": name one of its properties, e.g. " +
+                        c->Label() + "." + StoredProperties(c->kind()).front() + "=VALUE";
+                return false;
+            }
+            try {
+                c->SetProperty(prop, p.valor);
+            } catch (const PropertyError& e) {
+                fallo = e.what();
+                return false;
+            }
         }
-        if (p.tipo != Paso::Pon) {
-            d.UltimoGuardadoRechazado.clear();
-            d.UltimoErrorDatos.clear();
-            if (p.tipo == Paso::Pincha)
-                c->ClickAt(p.x, p.y);
-            else if (p.tipo == Paso::Deja)
-                c->LostFocus();
-            else
-                c->Click();
-            // A save the form refused, or general data that could not be written, has told why
-            // on standard error; nothing was written.
-            if (!d.UltimoGuardadoRechazado.empty() || !d.UltimoErrorDatos.empty())
-                return kFailure;
-            continue;
-        }
-        const std::string prop = p.control.propiedad.empty() ? PropiedadPorDefecto(*c) : p.control.propiedad;
-        if (prop.empty())
-            return Fail(c->Label() + " is a " + std::string(KindName(c->kind())) + ": name one of its properties, e.g. " +
-                        c->Label() + "." + StoredProperties(c->kind()).front() + "=VALUE");
-        try {
-            c->SetProperty(prop, p.valor);
-        } catch (const PropertyError& e) {
-            return Fail(e.what());
-        }
-    }
+        return true;
+    };
+    const bool bien = ejecuta(*form, o.pasos);
+    d.MuestraDialogo = nullptr;
+    if (!bien)
+        return fallo == "-" ? kFailure : Fail(fallo);
 
     std::ostringstream out;
     if (o.json) {
@@ -460,10 +509,12 @@ int CmdForms(Aplicacion& app, const std::vector<std::string>& args)
 
 Registrar form("form",
                "form WORK FORM [--title T] [--set NAME[(I)][.PROP]=VALUE]... [--press CONTROL]... "
-               "[--click PICTURE=X,Y]... [--type FIELD=KEYS]... [--leave FIELD]... [--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
+               "[--click PICTURE=X,Y]... [--type FIELD=KEYS]... [--leave FIELD]... [--dialog STEP... --end-dialog] "
+               "[--get NAME[(I)][.PROP]]... [--dump] [--json] [--answer yes|no]",
                "load element form FORM of WORK without a window, choose title T in List1, set fields, press "
                "buttons (CmdCalcular saves), click a picture at pixel X,Y, type keys into a field through its "
-               "key filter, leave a field, and print values or every control",
+               "key filter, leave a field, and print values or every control; the steps between --dialog and "
+               "--end-dialog drive the modal dialog that the press before opens",
                CmdForm);
 Registrar forms("forms", "forms [--json]", "list the forms: name, catalogue code, stored controls, caption",
                 CmdForms);
