@@ -73,7 +73,8 @@ protected:
                 poligono << punto(q);
             switch (t.figura) {
             case FiguraCroquis::Poligono:
-                p.setPen(t.papel == PapelCroquis::Hormigon ? QPen(QColor("#44546a"), 1) : QPen(Qt::NoPen));
+                p.setPen(t.papel == PapelCroquis::Hormigon || t.papel == PapelCroquis::Fabrica ? Pluma(t.papel)
+                                                                                               : QPen(Qt::NoPen));
                 p.setBrush(Relleno(t.papel, fondo));
                 p.drawPolygon(poligono);
                 if (t.papel == PapelCroquis::Terreno) {
@@ -107,6 +108,7 @@ private:
         switch (papel) {
         case PapelCroquis::Terreno: return QColor("#e6d8bd");
         case PapelCroquis::Hormigon: return QColor("#c3cad4");
+        case PapelCroquis::Fabrica: return QColor("#d9a48a");
         case PapelCroquis::Hueco: return fondo;
         default: return Qt::NoBrush;
         }
@@ -117,6 +119,7 @@ private:
         case PapelCroquis::Superficie: return QPen(QColor("#5b4a2a"), 2);
         case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
+        case PapelCroquis::Fabrica: return QPen(QColor("#7a3b22"), 1);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }

@@ -22,6 +22,7 @@ enum class PapelCroquis {
     Superficie,  // the ground's surface line
     Cota,        // a dimension
     Carga,       // a load on the ground
+    Fabrica,     // masonry: a wall's leaves and pilasters
 };
 
 enum class FiguraCroquis {

@@ -5,6 +5,7 @@
 #include "building/DatosGen.h"
 #include "building/Mapas.h"
 #include "concrete/Hormigon.h"
+#include "ground_masonry/Fabrica.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
 #include "works/Catalogo.h"
@@ -35,6 +36,9 @@ const std::vector<FormPropio>& FormsPropios()
         // The calculator of concrete properties by age: no record, opened over the main window.
         {"frmHormigon", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmHormigon>(d); },
          GruposHormigon()},
+        // The masonry properties: a modal dialog that hands its figures back to its caller.
+        {"frmFabrica", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmFabrica>(d); },
+         GruposFabrica()},
     };
     return propios;
 }

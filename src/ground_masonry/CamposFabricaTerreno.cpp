@@ -5,6 +5,9 @@
 #include "frame/ControlesVisibles.h"
 #include "frame/GruposVentana.h"
 #include "frame/Listas.h"
+#include "ground_masonry/MCerr.h"
+#include "ground_masonry/MDint.h"
+#include "ground_masonry/Muros.h"
 #include "ground_masonry/Suelo.h"
 
 namespace vardena {
@@ -61,6 +64,46 @@ constexpr GrupoDef kGruposSuelo[] = {
 
 
 // The stored fields of each form, in the order of its record.
+// The masonry forms' windows. Each has its masonry frame, with the button that opens the masonry
+// properties dialog beside the fields that dialog fills.
+constexpr std::string_view kMurosFabrica[] = {"CmbCatEjec", "TxCoefMin", "TxtQ(0)", "TxtDensidad", "cmdDefRes"};
+constexpr std::string_view kMurosArriostramiento[] = {"OptArr"};
+constexpr std::string_view kMurosSeccion[] = {"OpTramo", "CheckI", "CheckS", "PctSeccMuro", "LbInadmisible"};
+constexpr std::string_view kMurosCotasM[] = {"TxtCota(0)",  "TxtCota(1)",  "TxtCota(2)",  "TxtCota(3)",
+                                             "TxtCota(17)", "TxtCota(18)", "TxtCota(19)", "TxtCota(20)",
+                                             "TxtCota(21)", "TxtCota(22)", "TxtCota(23)", "TxtCota(24)"};
+constexpr std::string_view kMurosCotasCm[] = {"TxtCota*"};
+constexpr GrupoDef kGruposMuros[] = {
+    {"UCframeFab", 0, kMurosFabrica, {}, 0},      {"UCframeArr", 0, kMurosArriostramiento, {}, 0},
+    {"UCframeSecc", 0, kMurosSeccion, {}, 1},     {"UCframeCotas", 0, kMurosCotasM, {}, 2},
+    {"UCframeEspesores", 0, kMurosCotasCm, {}, 2},
+};
+constexpr std::string_view kMCerrFabrica[] = {"CmbFMat", "CmbFMort", "CmbCatEjec", "TxCatEjec",
+                                              "TxCoefMin", "TxtQ(0)", "TxtQ(1)", "cmdDefRes"};
+constexpr std::string_view kMCerrPanel[] = {"TxtCota", "TxtQ(2)", "TxtQ(3)"};
+constexpr std::string_view kMCerrApoyos[] = {"OptCab", "OptBase", "OptIzq", "OptDer"};
+constexpr std::string_view kMCerrCalculo[] = {"OptCalc"};
+constexpr GrupoDef kGruposMCerr[] = {
+    {"UCframeFab", 0, kMCerrFabrica, {}, 0},
+    {"UCframePanel", 0, kMCerrPanel, {}, 0},
+    {"UCframeApoyos", 0, kMCerrApoyos, {}, 1},
+    {"UCframeCalc", 0, kMCerrCalculo, {}, 1},
+};
+constexpr std::string_view kMDintFabrica[] = {"CmbDintel", "txtEspesor", "TxCoefMin", "TxtQ(0)",
+                                              "TxtDensidad", "cmdDefRes", "chkForjado"};
+constexpr std::string_view kMDintLuz[] = {"TxtCota", "TxtQ(1)", "TxtQ(2)", "TxtQ(3)"};
+constexpr std::string_view kMDintHormigon[] = {"CmbHorm",   "CmbAcero", "cmbControl", "CmbRecub", "CmbAmbGral",
+                                               "CmbAmbEspec", "TextDviga", "UCArVig",  "ChArV",    "UCArCer",
+                                               "txtCort"};
+constexpr std::string_view kMDintAcero[] = {"cmbAceroPerfil", "UCPerfil1"};
+constexpr std::string_view kMDintMadera[] = {"CmbResis", "CmbServi"};
+constexpr std::string_view kMDintFuego[] = {"txtEF", "CmbUso", "txtResF1", "txtResF2"};
+constexpr GrupoDef kGruposMDint[] = {
+    {"UCframeFab", 0, kMDintFabrica, {}, 0},    {"UCframeLuz", 0, kMDintLuz, {}, 0},
+    {"UCframe5(0)", 0, kMDintHormigon, {}, 1},  {"UCframe5(1)", 0, kMDintAcero, {}, 1},
+    {"UCframe5(2)", 0, kMDintMadera, {}, 1},    {"UCframeFuego", 0, kMDintFuego, {}, 1},
+};
+
 constexpr CampoDef kCamposFrmMuros[] = {
     {"CmbCatEjec", {}, kLista}, {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"CmbPlanta", {}, kLista},
     {"TxtDensidad", {}, kTexto, {"1900"}}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto},
@@ -247,8 +290,18 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kCk, "CheckS", -1, "Hueco superior"},
              {kTx, "TxtRes1", -1, "Centro"},
              {kTx, "TxtRes2", -1, "Extremo"},
+             {kFr, "UCframeFab", -1, "Fábrica"},
+             {kFr, "UCframeArr", -1, "Arriostramiento"},
+             {kFr, "UCframeSecc", -1, "Tramo y sección"},
+             {kFr, "UCframeCotas", -1, "Cotas (m)"},
+             {kFr, "UCframeEspesores", -1, "Espesores y anchos (cm)"},
+             {kPc, "PctSeccMuro", 0, ""},
+             {kPc, "PctSeccMuro", 1, ""},
+             {kPc, "PctSeccMuro", 2, ""},
+             {kPc, "PctSeccMuro", 3, ""},
+             {kLb, "LbInadmisible", -1, "ESBELTEZ INADMISIBLE"},
          }),
-         MenuDef{"Fabrica", 1, "mnuMuros", ""}},
+         MenuDef{"Fabrica", 1, "mnuMuros", ""}, kGruposMuros, &CreaDe<Muros>},
         {"frmMCerr", kCamposFrmMCerr,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Cerramientos sometidos a acciones horizontales", "Cerramiento 01", kNada, kMinimosMCerr,
@@ -280,8 +333,12 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxCatEjec", -1, "Categoría de ejecución"},
              {kCb, "CmbFMort", -1, "Mortero"},
              {kCb, "CmbFMat", -1, "Material de las piezas"},
+             {kFr, "UCframeFab", -1, "Fábrica"},
+             {kFr, "UCframePanel", -1, "Panel y cargas"},
+             {kFr, "UCframeApoyos", -1, "Sustentación"},
+             {kFr, "UCframeCalc", -1, "Cálculo"},
          }),
-         MenuDef{"Fabrica", 3, "mnuMCerr", ""}},
+         MenuDef{"Fabrica", 3, "mnuMCerr", ""}, kGruposMCerr, &CreaDe<MCerr>},
         {"frmMDint", kCamposFrmMDint,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Dintel Fábrica", "Dintel 01", kRecubEstructura, kMinimosMDint,
@@ -297,8 +354,14 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtRes1", 0, "Flector"},
              {kTx, "TxtRes1", 1, "Cortante"},
              {kTx, "TxtRes1", 2, "Fábrica"},
+             {kFr, "UCframeFab", -1, "Fábrica"},
+             {kFr, "UCframeLuz", -1, "Luz y cargas"},
+             {kFr, "UCframe5", 0, "Hormigón"},
+             {kFr, "UCframe5", 1, "Acero"},
+             {kFr, "UCframe5", 2, "Madera"},
+             {kFr, "UCframeFuego", -1, "Resistencia al fuego"},
          }),
-         MenuDef{"Fabrica", 2, "mnuMDint", ""}},
+         MenuDef{"Fabrica", 2, "mnuMDint", ""}, kGruposMDint, &CreaDe<MDint>},
         {"frmSuelo", kCamposFrmSuelo,
          {false, true, PasoComprobacion::Ninguno, false},
          "Definición del terreno de cimentación", "Terreno 01", kNada, kNada,

@@ -140,6 +140,10 @@ struct Declaraciones {
     // The modulus of the beams' concrete, t/m2, worked out again when a beam's concrete is chosen.
     float ModuloVigas = 0;
 
+    // The masonry density that the masonry properties dialog, opened from the lintel, leaves
+    // for the masonry wall form's next load; empty when there is none.
+    std::string DensidadMurosPendiente;
+
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();
 
