@@ -10,7 +10,9 @@
 
 #include "building/Mapas.h"
 #include "building/SistUnid.h"
+#include "controls/DialogoFabrica.h"
 #include "controls/DialogosMapas.h"
+#include "ground_masonry/Fabrica.h"
 #include "controls/Ventanas.h"
 #include "works/LngPack.h"
 #include "application/Mantenimiento.h"
@@ -153,6 +155,8 @@ std::unique_ptr<QDialog> CreaDialogo(Form& form, QWidget* parent)
         return std::make_unique<DialogoSistUnid>(*s, parent);
     if (auto* m = dynamic_cast<DialogoAcciones*>(&form))
         return std::make_unique<DialogoMapas>(*m, parent);
+    if (auto* f = dynamic_cast<FrmFabrica*>(&form))
+        return std::make_unique<DialogoFabrica>(*f, parent);
     return std::make_unique<VentanaDialogo>(form, Cerrado(form), parent);
 }
 

@@ -69,24 +69,31 @@ constexpr GrupoDef kGruposSuelo[] = {
 constexpr std::string_view kMurosFabrica[] = {"CmbCatEjec", "TxCoefMin", "TxtQ(0)", "TxtDensidad", "cmdDefRes"};
 constexpr std::string_view kMurosArriostramiento[] = {"OptArr"};
 constexpr std::string_view kMurosSeccion[] = {"OpTramo", "CheckI", "CheckS", "PctSeccMuro", "LbInadmisible"};
-constexpr std::string_view kMurosCotasM[] = {"TxtCota(0)",  "TxtCota(1)",  "TxtCota(2)",  "TxtCota(3)",
-                                             "TxtCota(17)", "TxtCota(18)", "TxtCota(19)", "TxtCota(20)",
-                                             "TxtCota(21)", "TxtCota(22)", "TxtCota(23)", "TxtCota(24)"};
-constexpr std::string_view kMurosCotasCm[] = {"TxtCota*"};
+// The coordinates keep together in index order: lengths and heights in m, then the thicknesses
+// and widths in cm, then the upper heights in m again.
+constexpr std::string_view kMurosCotas[] = {"TxtCota"};
+constexpr std::string_view kIdentidadFabrica[] = {"txtTitulo", "CmbPlanta"};
 constexpr GrupoDef kGruposMuros[] = {
-    {"UCframeFab", 0, kMurosFabrica, {}, 0},      {"UCframeArr", 0, kMurosArriostramiento, {}, 0},
-    {"UCframeSecc", 0, kMurosSeccion, {}, 1},     {"UCframeCotas", 0, kMurosCotasM, {}, 2},
-    {"UCframeEspesores", 0, kMurosCotasCm, {}, 2},
+    {"", kMsgGrupoElemento, kIdentidadFabrica, {}, 0}, {"UCframeFab", 0, kMurosFabrica, {}, 0},
+    {"UCframeArr", 0, kMurosArriostramiento, {}, 0},   {"UCframeSecc", 0, kMurosSeccion, {}, 1},
+    {"UCframeCotas", 0, kMurosCotas, {}, 2},
 };
 constexpr std::string_view kMCerrFabrica[] = {"CmbFMat", "CmbFMort", "CmbCatEjec", "TxCatEjec",
                                               "TxCoefMin", "TxtQ(0)", "TxtQ(1)", "cmdDefRes"};
 constexpr std::string_view kMCerrPanel[] = {"TxtCota", "TxtQ(2)", "TxtQ(3)"};
-constexpr std::string_view kMCerrApoyos[] = {"OptCab", "OptBase", "OptIzq", "OptDer"};
+constexpr std::string_view kMCerrCabeza[] = {"OptCab"};
+constexpr std::string_view kMCerrBase[] = {"OptBase"};
+constexpr std::string_view kMCerrIzquierdo[] = {"OptIzq"};
+constexpr std::string_view kMCerrDerecho[] = {"OptDer"};
 constexpr std::string_view kMCerrCalculo[] = {"OptCalc"};
 constexpr GrupoDef kGruposMCerr[] = {
+    {"", kMsgGrupoElemento, kIdentidadFabrica, {}, 0},
     {"UCframeFab", 0, kMCerrFabrica, {}, 0},
     {"UCframePanel", 0, kMCerrPanel, {}, 0},
-    {"UCframeApoyos", 0, kMCerrApoyos, {}, 1},
+    {"UCframeCab", 0, kMCerrCabeza, {}, 1},
+    {"UCframeBase", 0, kMCerrBase, {}, 1},
+    {"UCframeIzq", 0, kMCerrIzquierdo, {}, 1},
+    {"UCframeDer", 0, kMCerrDerecho, {}, 1},
     {"UCframeCalc", 0, kMCerrCalculo, {}, 1},
 };
 constexpr std::string_view kMDintFabrica[] = {"CmbDintel", "txtEspesor", "TxCoefMin", "TxtQ(0)",
@@ -99,6 +106,7 @@ constexpr std::string_view kMDintAcero[] = {"cmbAceroPerfil", "UCPerfil1"};
 constexpr std::string_view kMDintMadera[] = {"CmbResis", "CmbServi"};
 constexpr std::string_view kMDintFuego[] = {"txtEF", "CmbUso", "txtResF1", "txtResF2"};
 constexpr GrupoDef kGruposMDint[] = {
+    {"", kMsgGrupoElemento, kIdentidadFabrica, {}, 0},
     {"UCframeFab", 0, kMDintFabrica, {}, 0},    {"UCframeLuz", 0, kMDintLuz, {}, 0},
     {"UCframe5(0)", 0, kMDintHormigon, {}, 1},  {"UCframe5(1)", 0, kMDintAcero, {}, 1},
     {"UCframe5(2)", 0, kMDintMadera, {}, 1},    {"UCframeFuego", 0, kMDintFuego, {}, 1},
@@ -293,8 +301,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kFr, "UCframeFab", -1, "Fábrica"},
              {kFr, "UCframeArr", -1, "Arriostramiento"},
              {kFr, "UCframeSecc", -1, "Tramo y sección"},
-             {kFr, "UCframeCotas", -1, "Cotas (m)"},
-             {kFr, "UCframeEspesores", -1, "Espesores y anchos (cm)"},
+             {kFr, "UCframeCotas", -1, "Cotas (m) y espesores (cm)"},
              {kPc, "PctSeccMuro", 0, ""},
              {kPc, "PctSeccMuro", 1, ""},
              {kPc, "PctSeccMuro", 2, ""},
@@ -335,8 +342,11 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kCb, "CmbFMat", -1, "Material de las piezas"},
              {kFr, "UCframeFab", -1, "Fábrica"},
              {kFr, "UCframePanel", -1, "Panel y cargas"},
-             {kFr, "UCframeApoyos", -1, "Sustentación"},
-             {kFr, "UCframeCalc", -1, "Cálculo"},
+             {kFr, "UCframeCab", -1, "Cabeza"},
+             {kFr, "UCframeBase", -1, "Base"},
+             {kFr, "UCframeIzq", -1, "Borde izquierdo"},
+             {kFr, "UCframeDer", -1, "Borde derecho"},
+             {kFr, "UCframeCalc", -1, "Método de cálculo"},
          }),
          MenuDef{"Fabrica", 3, "mnuMCerr", ""}, kGruposMCerr, &CreaDe<MCerr>},
         {"frmMDint", kCamposFrmMDint,
