@@ -105,12 +105,6 @@ void Muros::SeleccPicSecc()
 
 void Muros::cmdDefRes_Click() { AbreFabrica(*this); }
 
-DatosComprobacion Muros::LeeDatosComprobacion()
-{
-    // CalCargas: the wall's loads come from its own fields; the check takes no arguments.
-    return ElementForm::LeeDatosComprobacion();
-}
-
 std::optional<Croquis> Muros::CroquisDe(const Control& picture) const
 {
     if (picture.Name() != "PctSeccMuro" || picture.Index() < 0 || picture.Index() >= kSeccionesMuro)

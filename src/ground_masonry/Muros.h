@@ -2,6 +2,8 @@
 // The loaded masonry wall (frmMuros). Its check step is a no-op; what runs is the data entry:
 // the thickness warning on leaving a thickness, the section picture of the chosen stretch, the
 // masonry properties dialog, and the minimums compared on the way to the check with no effect.
+// The wall's loads (CalCargas) are gathered from its fields as every form's are; the check takes
+// no arguments.
 
 #include <optional>
 #include <string>
@@ -39,8 +41,6 @@ public:
 protected:
     // The density the masonry properties dialog left when opened from the lintel; the section.
     void CargaPropia() override;
-    // Before the no-op check: the loads of the wall, gathered for a check that takes none.
-    DatosComprobacion LeeDatosComprobacion() override;
 
 private:
     bool enCambioCota_ = false;
