@@ -119,7 +119,8 @@ constexpr CampoDef kCamposFrmMuros[] = {
     {"TxtCota", {0, 1, 2, 3, 22}, kTexto, {"0.80", "2.55", "1.30", "3.60", "6.00"}}, {"OptArr", {2, 1, 0}, kOpcion},
     {"TxtCota", {21}, kTexto, {"2.80"}}, {"OpTramo", {2}, kOpcion}, {"TxtCota", {17}, kTexto, {"4.90"}},
     {"OpTramo", {0, 3, 1}, kOpcion}, {"TxtCota", {20, 19, 18}, kTexto, {"2.80", "5.10", "4.80"}}, {"txtTitulo", {}, kTexto},
-    {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4, 12, 11, 10, 9}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25"}},
+    {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25", "25"}},
+    {"TxtCota", {12, 11, 10, 9}, kTexto, {"40", "25", "10", "30"}},
 };
 static_assert(CamposBienFormados(kCamposFrmMuros));
 
