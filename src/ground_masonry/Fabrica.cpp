@@ -208,11 +208,6 @@ FrmFabrica::FrmFabrica(Declaraciones& d) : Form(d, "frmFabrica", "Definición de
         f.SetVisible(false);
     }
     Add(Kind::Label, "lbDensidad").SetCaption("kg/m3");
-    // The results are worked out, not typed.
-    for (int i : {2, 3, 4, 5, 6})
-        At("TxtQ", i).SetEnabled(false);
-    for (const char* n : {"txtCoefFluencia", "txtGm"})
-        At(n).SetEnabled(false);
     Add(Kind::CommandButton, "CmdSalir").SetCaption("SALIR");
     Add(Kind::CommandButton, "cmdAyuda").SetCaption("?");
 

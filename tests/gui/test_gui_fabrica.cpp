@@ -33,7 +33,12 @@ TEST(GuiFabrica, GeneralDataButtonShowsTheDialogAndTakesItsFigures)
         auto* fk = w->findChild<QLineEdit*>("TxtQ(3)");
         ASSERT_NE(fk, nullptr);
         EXPECT_EQ(fk->text(), "68.55");
-        EXPECT_FALSE(fk->isEnabled());
+        // Lightweight mortar on calcium silicate has no flexural strength: "No", disabled.
+        QMetaObject::invokeMethod(w->findChild<QComboBox*>("cmbTipo"), "activated", Q_ARG(int, 1));
+        QMetaObject::invokeMethod(w->findChild<QComboBox*>("cmbMortero"), "activated", Q_ARG(int, 2));
+        auto* fxk1 = w->findChild<QLineEdit*>("TxtQ(5)");
+        EXPECT_EQ(fxk1->text(), "No");
+        EXPECT_FALSE(fxk1->isEnabled());
         EXPECT_EQ(w->findChild<QLineEdit*>("TxtDensidad")->text(), "1500");
         w->findChild<QPushButton*>("CmdSalir")->click();
     });
