@@ -16,7 +16,6 @@
 #include "building/DatosGen.h"
 #include "frame/ElementForm.h"
 #include "frame/Formularios.h"
-#include "frame/GruposVentana.h"
 #include "ground_masonry/Fabrica.h"
 #include "support/TestSupport.h"
 #include "works/LngPack.h"
@@ -376,17 +375,6 @@ TEST_F(Masonry, SavingAWallChecksNothingAndSaysSo)
         EXPECT_NE(f->ResumenCalculo().find("to no effect"), std::string::npos) << nombre;
         EXPECT_TRUE(app.ui.boxes.empty()) << nombre;
     }
-}
-
-TEST_F(Masonry, DialogWindowGroupsHoldEveryField)
-{
-    auto f = Carga("frmFabrica");
-    const auto grupos = AgrupaCampos(*f);
-    ASSERT_GE(grupos.size(), 2u);
-    EXPECT_EQ(grupos[0].titulo, "Datos de la fábrica");
-    EXPECT_EQ(grupos[1].titulo, "Características");
-    EXPECT_EQ(grupos[0].miembros.size(), 9u);
-    EXPECT_EQ(grupos[1].miembros.size(), 7u);
 }
 
 }  // namespace
