@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "building/Unidades.h"
+#include "ground_masonry/Fabrica.h"
+#include "works/VentanaError.h"
 #include "works/LngPack.h"
 #include "works/Catalogo.h"
 #include "works/DatosFile.h"
@@ -183,6 +185,8 @@ void DatosGen::Build()
     Add(Kind::CommandButton, "cmdAyuda").SetCaption("?");
     At("cmdAyuda").onClick = [this](Control&) { cmdAyuda(); };
     Add(Kind::CommandButton, "cmdFabr").SetCaption("Calcular resistencia");
+    // The masonry properties dialog, which fills the masonry fields on closing.
+    At("cmdFabr").onClick = [this](Control&) { ConVentanaError(decl(), "cmdFabr_Click", [this] { AbreFabrica(*this); }); };
     Add(Kind::PictureBox, "Geom");
     Add(Kind::Label, "LbCu").SetCaption("Cubierta");
     Add(Kind::Label, "LbAlt").SetCaption("Altura (m.)");

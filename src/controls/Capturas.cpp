@@ -130,6 +130,27 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         escritas.push_back(Fotografia(d.get(), carpeta, "22-frmForjUnid2"));
         d->hide();
     }
+    // The masonry properties dialog, as the general data's button opens it, on perforated brick
+    // with lightweight mortar so that the flexural strengths read "No"; then the wall windows.
+    if (std::unique_ptr<Form> fabrica = CargaForm(programa.app().decl, "frmFabrica")) {
+        programa.app().decl.FormActivo = "DatosGen";
+        fabrica->At("cmbTipoFabr").SetListIndex(2);
+        fabrica->At("cmbMortero").SetListIndex(2);
+        fabrica->At("cmbTipo").SetListIndex(1);
+        std::unique_ptr<QDialog> d = CreaDialogo(*fabrica, nullptr);
+        escritas.push_back(Fotografia(d.get(), carpeta, std::to_string(n++) + "-frmFabrica"));
+        d->hide();
+    }
+    for (const auto& [opcion, nombre] : {std::pair{"MURF", "frmMuros"}, std::pair{"MDIN", "frmMDint"},
+                                         std::pair{"MURC", "frmMCerr"}}) {
+        VentanaForm* v = programa.AbreOpcion(opcion);
+        if (!v)
+            continue;
+        EligePrimerRegistro(v);
+        escritas.push_back(Fotografia(v, carpeta, std::to_string(n++) + "-" + nombre));
+        v->alCerrar = nullptr;
+        v->close();
+    }
     DatosError e;
     e.numero = 75;
     e.descripcion = "Error de acceso a la ruta o al archivo";

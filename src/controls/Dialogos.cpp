@@ -12,7 +12,9 @@
 #include "building/SistUnid.h"
 #include "concrete/ForjUnid2.h"
 #include "controls/DialogoFichas.h"
+#include "controls/DialogoFabrica.h"
 #include "controls/DialogosMapas.h"
+#include "ground_masonry/Fabrica.h"
 #include "controls/Ventanas.h"
 #include "works/LngPack.h"
 #include "application/Mantenimiento.h"
@@ -157,6 +159,8 @@ std::unique_ptr<QDialog> CreaDialogo(Form& form, QWidget* parent)
         return std::make_unique<DialogoMapas>(*m, parent);
     if (auto* f = dynamic_cast<FrmForjUnid2*>(&form))
         return std::make_unique<DialogoFichas>(*f, parent);
+    if (auto* f = dynamic_cast<FrmFabrica*>(&form))
+        return std::make_unique<DialogoFabrica>(*f, parent);
     return std::make_unique<VentanaDialogo>(form, Cerrado(form), parent);
 }
 

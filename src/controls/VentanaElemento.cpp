@@ -73,7 +73,8 @@ protected:
                 poligono << punto(q);
             switch (t.figura) {
             case FiguraCroquis::Poligono:
-                p.setPen(t.papel == PapelCroquis::Hormigon ? QPen(QColor("#44546a"), 1) : QPen(Qt::NoPen));
+                p.setPen(t.papel == PapelCroquis::Hormigon || t.papel == PapelCroquis::Fabrica ? Pluma(t.papel)
+                                                                                               : QPen(Qt::NoPen));
                 p.setBrush(Relleno(t.papel, fondo));
                 p.drawPolygon(poligono);
                 if (t.papel == PapelCroquis::Terreno) {
@@ -107,6 +108,7 @@ private:
         switch (papel) {
         case PapelCroquis::Terreno: return QColor("#e6d8bd");
         case PapelCroquis::Hormigon: return QColor("#c3cad4");
+        case PapelCroquis::Fabrica: return QColor("#d9a48a");
         case PapelCroquis::Hueco: return fondo;
         case PapelCroquis::Resalte: return QColor(173, 205, 236, 170);
         default: return Qt::NoBrush;
@@ -120,6 +122,7 @@ private:
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
         case PapelCroquis::Ausente: return QPen(QColor("#9aa3ad"), 1, Qt::DashLine);
         case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 2);
+        case PapelCroquis::Fabrica: return QPen(QColor("#7a3b22"), 1);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }

@@ -440,6 +440,7 @@ const std::vector<ControlVisible>& EtiquetasFabrica()
     static const std::vector<ControlVisible> filas = {
         {kTx, "TxtCota", -1, "Cotas"},
         {kTx, "TxtQ", -1, "Cargas"},
+        {kBt, "cmdDefRes", -1, "Calcular resistencia"},
     };
     return filas;
 }

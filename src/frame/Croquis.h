@@ -25,6 +25,7 @@ enum class PapelCroquis {
     Ausente,     // a member a scheme shows where the structure has none: dashed, faint
     Resalte,     // a part of a plan set off from the rest: a drop panel, a chosen band of a slab
     Armadura,    // a reinforcing bar
+    Fabrica,     // masonry: a wall's leaves and pilasters
 };
 
 enum class FiguraCroquis {

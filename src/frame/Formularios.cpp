@@ -6,6 +6,7 @@
 #include "building/Mapas.h"
 #include "concrete/ForjUnid2.h"
 #include "concrete/Hormigon.h"
+#include "ground_masonry/Fabrica.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
 #include "works/Catalogo.h"
@@ -39,6 +40,9 @@ const std::vector<FormPropio>& FormsPropios()
         // The slab catalogue editor, opened modally by the one-way slab.
         {"frmForjUnid2", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmForjUnid2>(d); },
          GruposForjUnid2()},
+        // The masonry properties: a modal dialog that hands its figures back to its caller.
+        {"frmFabrica", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmFabrica>(d); },
+         GruposFabrica()},
     };
     return propios;
 }

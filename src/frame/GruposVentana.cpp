@@ -101,6 +101,16 @@ void Filas(GrupoCampos& g, const std::vector<std::vector<Control*>>& entradas)
     g.miembros.insert(g.miembros.end(), rotulos.begin(), rotulos.end());
 }
 
+// A frame a group names: "Name" or a member of an array, "Name(Index)".
+const Control* MarcoNombrado(const Form& form, std::string_view nombre)
+{
+    if (nombre.empty())
+        return nullptr;
+    if (const size_t p = nombre.find('('); p != std::string_view::npos)
+        return form.Find(std::string(nombre.substr(0, p)), std::stoi(std::string(nombre.substr(p + 1))));
+    return form.Find(std::string(nombre));
+}
+
 // The declared groups with the controls they take.
 std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> defs, std::set<const Control*>& tomados)
 {
@@ -108,10 +118,10 @@ std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> 
     for (const GrupoDef& def : defs) {
         GrupoCampos g;
         g.columna = def.columna;
-        const Control* marco = def.marco.empty() ? nullptr : form.Find(std::string(def.marco));
+        const Control* marco = MarcoNombrado(form, def.marco);
         g.titulo = marco ? marco->Caption() : form.decl().Msg(def.mensaje);
         for (const std::string_view nombre : {def.marco, def.dentro})
-            if (const Control* m = nombre.empty() ? nullptr : form.Find(std::string(nombre)))
+            if (const Control* m = MarcoNombrado(form, nombre))
                 g.marcos.push_back(m);
         std::vector<std::vector<Control*>> entradas;
         for (std::string_view nombre : def.controles) {

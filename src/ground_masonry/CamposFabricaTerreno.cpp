@@ -5,6 +5,9 @@
 #include "frame/ControlesVisibles.h"
 #include "frame/GruposVentana.h"
 #include "frame/Listas.h"
+#include "ground_masonry/MCerr.h"
+#include "ground_masonry/MDint.h"
+#include "ground_masonry/Muros.h"
 #include "ground_masonry/Suelo.h"
 
 namespace vardena {
@@ -61,6 +64,54 @@ constexpr GrupoDef kGruposSuelo[] = {
 
 
 // The stored fields of each form, in the order of its record.
+// The masonry forms' windows. Each has its masonry frame, with the button that opens the masonry
+// properties dialog beside the fields that dialog fills.
+constexpr std::string_view kMurosFabrica[] = {"CmbCatEjec", "TxCoefMin", "TxtQ(0)", "TxtDensidad", "cmdDefRes"};
+constexpr std::string_view kMurosArriostramiento[] = {"OptArr"};
+constexpr std::string_view kMurosSeccion[] = {"OpTramo", "CheckI", "CheckS", "PctSeccMuro", "LbInadmisible"};
+// The coordinates keep together in index order: lengths and heights in m, then the thicknesses
+// and widths in cm, then the upper heights in m again.
+constexpr std::string_view kMurosCotas[] = {"TxtCota"};
+constexpr std::string_view kIdentidadFabrica[] = {"txtTitulo", "CmbPlanta"};
+constexpr GrupoDef kGruposMuros[] = {
+    {"", kMsgGrupoElemento, kIdentidadFabrica, {}, 0}, {"UCframeFab", 0, kMurosFabrica, {}, 0},
+    {"UCframeArr", 0, kMurosArriostramiento, {}, 0},   {"UCframeSecc", 0, kMurosSeccion, {}, 1},
+    {"UCframeCotas", 0, kMurosCotas, {}, 2},
+};
+constexpr std::string_view kMCerrFabrica[] = {"CmbFMat", "CmbFMort", "CmbCatEjec", "TxCatEjec",
+                                              "TxCoefMin", "TxtQ(0)", "TxtQ(1)", "cmdDefRes"};
+constexpr std::string_view kMCerrPanel[] = {"TxtCota", "TxtQ(2)", "TxtQ(3)"};
+constexpr std::string_view kMCerrCabeza[] = {"OptCab"};
+constexpr std::string_view kMCerrBase[] = {"OptBase"};
+constexpr std::string_view kMCerrIzquierdo[] = {"OptIzq"};
+constexpr std::string_view kMCerrDerecho[] = {"OptDer"};
+constexpr std::string_view kMCerrCalculo[] = {"OptCalc"};
+constexpr GrupoDef kGruposMCerr[] = {
+    {"", kMsgGrupoElemento, kIdentidadFabrica, {}, 0},
+    {"UCframeFab", 0, kMCerrFabrica, {}, 0},
+    {"UCframePanel", 0, kMCerrPanel, {}, 0},
+    {"UCframeCab", 0, kMCerrCabeza, {}, 1},
+    {"UCframeBase", 0, kMCerrBase, {}, 1},
+    {"UCframeIzq", 0, kMCerrIzquierdo, {}, 1},
+    {"UCframeDer", 0, kMCerrDerecho, {}, 1},
+    {"UCframeCalc", 0, kMCerrCalculo, {}, 1},
+};
+constexpr std::string_view kMDintFabrica[] = {"CmbDintel", "txtEspesor", "TxCoefMin", "TxtQ(0)",
+                                              "TxtDensidad", "cmdDefRes", "chkForjado"};
+constexpr std::string_view kMDintLuz[] = {"TxtCota", "TxtQ(1)", "TxtQ(2)", "TxtQ(3)"};
+constexpr std::string_view kMDintHormigon[] = {"CmbHorm",   "CmbAcero", "cmbControl", "CmbRecub", "CmbAmbGral",
+                                               "CmbAmbEspec", "TextDviga", "UCArVig",  "ChArV",    "UCArCer",
+                                               "txtCort"};
+constexpr std::string_view kMDintAcero[] = {"cmbAceroPerfil", "UCPerfil1"};
+constexpr std::string_view kMDintMadera[] = {"CmbResis", "CmbServi"};
+constexpr std::string_view kMDintFuego[] = {"txtEF", "CmbUso", "txtResF1", "txtResF2"};
+constexpr GrupoDef kGruposMDint[] = {
+    {"", kMsgGrupoElemento, kIdentidadFabrica, {}, 0},
+    {"UCframeFab", 0, kMDintFabrica, {}, 0},    {"UCframeLuz", 0, kMDintLuz, {}, 0},
+    {"UCframe5(0)", 0, kMDintHormigon, {}, 1},  {"UCframe5(1)", 0, kMDintAcero, {}, 1},
+    {"UCframe5(2)", 0, kMDintMadera, {}, 1},    {"UCframeFuego", 0, kMDintFuego, {}, 1},
+};
+
 constexpr CampoDef kCamposFrmMuros[] = {
     {"CmbCatEjec", {}, kLista}, {"TxCoefMin", {}, kTexto, {"1.7"}}, {"TxtQ", {0}, kTexto, {"33"}}, {"CmbPlanta", {}, kLista},
     {"TxtDensidad", {}, kTexto, {"1900"}}, {"TxtRes1", {}, kTexto}, {"TxtRes2", {}, kTexto},
@@ -68,7 +119,8 @@ constexpr CampoDef kCamposFrmMuros[] = {
     {"TxtCota", {0, 1, 2, 3, 22}, kTexto, {"0.80", "2.55", "1.30", "3.60", "6.00"}}, {"OptArr", {2, 1, 0}, kOpcion},
     {"TxtCota", {21}, kTexto, {"2.80"}}, {"OpTramo", {2}, kOpcion}, {"TxtCota", {17}, kTexto, {"4.90"}},
     {"OpTramo", {0, 3, 1}, kOpcion}, {"TxtCota", {20, 19, 18}, kTexto, {"2.80", "5.10", "4.80"}}, {"txtTitulo", {}, kTexto},
-    {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4, 12, 11, 10, 9}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25"}},
+    {"TxtCota", {16, 15, 14, 13, 8, 7, 6, 5, 4}, kTexto, {"40", "25", "5", "30", "40", "25", "40", "25", "25"}},
+    {"TxtCota", {12, 11, 10, 9}, kTexto, {"40", "25", "10", "30"}},
 };
 static_assert(CamposBienFormados(kCamposFrmMuros));
 
@@ -247,8 +299,17 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kCk, "CheckS", -1, "Hueco superior"},
              {kTx, "TxtRes1", -1, "Centro"},
              {kTx, "TxtRes2", -1, "Extremo"},
+             {kFr, "UCframeFab", -1, "Fábrica"},
+             {kFr, "UCframeArr", -1, "Arriostramiento"},
+             {kFr, "UCframeSecc", -1, "Tramo y sección"},
+             {kFr, "UCframeCotas", -1, "Cotas (m) y espesores (cm)"},
+             {kPc, "PctSeccMuro", 0, ""},
+             {kPc, "PctSeccMuro", 1, ""},
+             {kPc, "PctSeccMuro", 2, ""},
+             {kPc, "PctSeccMuro", 3, ""},
+             {kLb, "LbInadmisible", -1, "ESBELTEZ INADMISIBLE"},
          }),
-         MenuDef{"Fabrica", 1, "mnuMuros", ""}},
+         MenuDef{"Fabrica", 1, "mnuMuros", ""}, kGruposMuros, &CreaDe<Muros>},
         {"frmMCerr", kCamposFrmMCerr,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Cerramientos sometidos a acciones horizontales", "Cerramiento 01", kNada, kMinimosMCerr,
@@ -280,8 +341,15 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxCatEjec", -1, "Categoría de ejecución"},
              {kCb, "CmbFMort", -1, "Mortero"},
              {kCb, "CmbFMat", -1, "Material de las piezas"},
+             {kFr, "UCframeFab", -1, "Fábrica"},
+             {kFr, "UCframePanel", -1, "Panel y cargas"},
+             {kFr, "UCframeCab", -1, "Cabeza"},
+             {kFr, "UCframeBase", -1, "Base"},
+             {kFr, "UCframeIzq", -1, "Borde izquierdo"},
+             {kFr, "UCframeDer", -1, "Borde derecho"},
+             {kFr, "UCframeCalc", -1, "Método de cálculo"},
          }),
-         MenuDef{"Fabrica", 3, "mnuMCerr", ""}},
+         MenuDef{"Fabrica", 3, "mnuMCerr", ""}, kGruposMCerr, &CreaDe<MCerr>},
         {"frmMDint", kCamposFrmMDint,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Dintel Fábrica", "Dintel 01", kRecubEstructura, kMinimosMDint,
@@ -297,8 +365,14 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtRes1", 0, "Flector"},
              {kTx, "TxtRes1", 1, "Cortante"},
              {kTx, "TxtRes1", 2, "Fábrica"},
+             {kFr, "UCframeFab", -1, "Fábrica"},
+             {kFr, "UCframeLuz", -1, "Luz y cargas"},
+             {kFr, "UCframe5", 0, "Hormigón"},
+             {kFr, "UCframe5", 1, "Acero"},
+             {kFr, "UCframe5", 2, "Madera"},
+             {kFr, "UCframeFuego", -1, "Resistencia al fuego"},
          }),
-         MenuDef{"Fabrica", 2, "mnuMDint", ""}},
+         MenuDef{"Fabrica", 2, "mnuMDint", ""}, kGruposMDint, &CreaDe<MDint>},
         {"frmSuelo", kCamposFrmSuelo,
          {false, true, PasoComprobacion::Ninguno, false},
          "Definición del terreno de cimentación", "Terreno 01", kNada, kNada,

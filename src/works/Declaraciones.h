@@ -142,6 +142,10 @@ struct Declaraciones {
     // The concrete strength of the one-way slab check (kp/cm2), set by the slab's concrete list.
     int16_t ResisForjado = 0;
 
+    // The masonry density that the masonry properties dialog, opened from the lintel, leaves
+    // for the masonry wall form's next load; empty when there is none.
+    std::string DensidadMurosPendiente;
+
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();
 
