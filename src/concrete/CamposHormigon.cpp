@@ -22,20 +22,28 @@ constexpr Valor kMinimosMensCorta[] = {{"TxCota", {{0, 6}}, 0}};
 constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {{0, 4}}, 0}, {"TxCotaH2", {{0, 4}}, 0}, {"TxCotaRampa", {{0, 0}}, 0}};
 
 
-// The concrete beam's window: its data, the beam drawn with its lengths and stretches beside
-// it, the loads of each stretch, the reinforcement and the transverse bending.
+// The concrete beam's window: the beam drawn with the fields of each side under it (left side
+// in the first column, right side in the second), the stretches with the load of each beside its
+// length, its data, the section drawn beside its sizes, the bars, the optional layers with their
+// lengths, the stirrups and the transverse bending.
 constexpr std::string_view kVigHormDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta"};
-constexpr std::string_view kVigHormViga[] = {"PctViga",   "CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)",
-                                             "TxCota(0)", "TxCota(4)", "TextDviga", "TxtPil(0)", "TxtPil(1)",
-                                             "ChVigIzq",  "ChVigDer",  "ChPilIzq",  "ChPilDer"};
-constexpr std::string_view kVigHormCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)"};
-constexpr std::string_view kVigHormPuntuales[] = {"TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(4)"};
-constexpr std::string_view kVigHormArmado[] = {"UCArVig", "UCArCer", "ChArV", "TxLv"};
+constexpr std::string_view kVigHormViga[] = {"PctViga",   "ChVigIzq",  "ChVigDer",  "TxCota(0)", "TxCota(4)",
+                                             "TxtQ(0)",   "TxtQ(4)",   "ChPilIzq",  "ChPilDer",  "TxtPil(0)",
+                                             "TxtPil(1)", "TxtQ(5)",   "TxtQ(6)"};
+constexpr std::string_view kVigHormTramos[] = {"CmTramos", "TxCota(1)", "TxCota(2)", "TxtQ(1)",
+                                               "TxCota(3)", "TxtQ(2)",  "TxtQ(3)"};
+constexpr std::string_view kVigHormSeccion[] = {"PctSeccion", "PictIzq", "PictDer", "TextDviga(0)", "TextDviga(1)"};
+constexpr std::string_view kVigHormBarras[] = {"UCArVig"};
+constexpr std::string_view kVigHormCapas[] = {"ChArV(1)", "TxLv(1)", "ChArV(2)", "TxLv(2)", "ChArV(3)", "TxLv(3)",
+                                              "ChArV(4)", "TxLv(4)", "ChArV(5)", "TxLv(5)", "ChArV(6)", "TxLv(6)",
+                                              "ChArV(8)", "TxLv(7)", "TxLv(8)"};
+constexpr std::string_view kVigHormCercos[] = {"UCArCer"};
 constexpr std::string_view kVigHormTransversal[] = {"ChTrans", "TxCota(5)", "TxCota(6)"};
 constexpr GrupoDef kGruposVigHorm[] = {
-    {"FrViga", 0, kVigHormViga, {}, 0},          {"FrDatosViga", 0, kVigHormDatos, {}, 1},
-    {"FrCargasViga", 0, kVigHormCargas, {}, 1},  {"FrPuntualesViga", 0, kVigHormPuntuales, {}, 1},
-    {"FrArmadoViga", 0, kVigHormArmado, {}, 2},  {"UCframeT", 0, kVigHormTransversal, {}, 1},
+    {"FrViga", 0, kVigHormViga, {}, 0},          {"FrTramosViga", 0, kVigHormTramos, {}, 0},
+    {"FrDatosViga", 0, kVigHormDatos, {}, 1},    {"FrSeccionViga", 0, kVigHormSeccion, {}, 1},
+    {"UCframeT", 0, kVigHormTransversal, {}, 1}, {"FrArmadoViga", 0, kVigHormBarras, {}, 2},
+    {"FrCapasViga", 0, kVigHormCapas, {}, 2},    {"FrCercosViga", 0, kVigHormCercos, {}, 2},
 };
 
 // The stored fields of each form, in the order of its record.
@@ -86,7 +94,7 @@ constexpr CampoDef kCamposFrmPilHorm[] = {
     {"CmbForma", {}, kLista}, {"cmbesviada", {}, kLista}, {"OpPosPil", {2, 1, 0}, kOpcion}, {"txtTitulo", {}, kTexto},
     {"UCArmPilar", {1, 3, 2, 4}, kNumDiam}, {"ChPil", {4, 3}, kCasilla}, {"txtTramo", {4, 3}, kTexto, {"30"}},
     {"UCCercos", {}, kNumDiamSep}, {"txtTramo", {0}, kTexto, {"30"}}, {"UCArmPilar", {0}, kNumDiam}, {"UCNumDiamSep1", {}, kNumDiamSep},
-    {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla},
+    {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"40", "0", "800", "0"}}, {"ChPilSup", {}, kCasilla},
 };
 static_assert(CamposBienFormados(kCamposFrmPilHorm));
 
@@ -100,7 +108,7 @@ constexpr std::string_view kPilarPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "Op
 constexpr std::string_view kPilarLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
 constexpr std::string_view kPilarLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
 constexpr std::string_view kPilarLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
-constexpr std::string_view kPilarSeccion[] = {"CmbForma", "txtTramo", "UCArmPilar", "ChPil", "cmbesviada", "Lbnota"};
+constexpr std::string_view kPilarSeccion[] = {"PctCuadr", "PctCir", "Pctllave", "CmbForma", "txtTramo", "UCArmPilar", "ChPil", "cmbesviada", "Lbnota"};
 constexpr std::string_view kPilarCercos[] = {"UCCercos", "UCNumDiamSep1"};
 constexpr std::string_view kPilarEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
 constexpr std::string_view kPilarCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
@@ -263,12 +271,52 @@ std::span<const TablaForm> TablasHormigon()
          Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}, {
              {kFr, "FrDatosViga", -1, "Datos iniciales"},
              {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
-             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
-             {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
+             {kFr, "FrTramosViga", -1, "Tramos y cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrSeccionViga", -1, "Sección (cm)"},
              {kFr, "FrArmadoViga", -1, "Armado"},
+             {kFr, "FrCapasViga", -1, "Capas adicionales y su longitud (m)"},
+             {kFr, "FrCercosViga", -1, "Cercos (cercos de 2 ramas)"},
              {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
              {kPc, "PctViga", -1, ""},
+             {kPc, "PctSeccion", -1, ""},
+             {kPc, "PictIzq", -1, ""},
+             {kPc, "PictDer", -1, ""},
+             {kPc, "ImgApo", 0, ""},
+             {kPc, "ImgApo", 1, ""},
              {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+             {kCk, "ChVigIzq", -1, "Voladizo o viga continua izq."},
+             {kCk, "ChVigDer", -1, "Voladizo o viga continua der."},
+             {kTx, "TxCota", 0, "Voladizo izquierdo (m)"},
+             {kTx, "TxCota", 4, "Voladizo derecho (m)"},
+             {kTx, "TxtQ", 0, "P1 voladizo izq."},
+             {kTx, "TxtQ", 4, "P2 voladizo der."},
+             {kTx, "TxtQ", 5, "P a 1/3 del vano"},
+             {kTx, "TxtQ", 6, "P a 2/3 del vano"},
+             {kTx, "TxtQ", 1, "q1 tramo 1"},
+             {kTx, "TxtQ", 2, "q2 tramo 2"},
+             {kTx, "TxtQ", 3, "q3 tramo 3"},
+             {kCk, "ChPilIzq", -1, "Pilar inferior izq."},
+             {kCk, "ChPilDer", -1, "Pilar inferior der."},
+             {kTx, "TxtPil", 0, "Canto pilar izq. (cm)"},
+             {kTx, "TxtPil", 1, "Canto pilar der. (cm)"},
+             {kNd, "UCArVig", 0, "Inferior"},
+             {kNd, "UCArVig", 1, "Sup. apoyo izq. 1"},
+             {kNd, "UCArVig", 2, "Sup. apoyo izq. 2"},
+             {kNd, "UCArVig", 3, "Sup. apoyo izq. 3"},
+             {kNd, "UCArVig", 4, "Sup. apoyo der. 1"},
+             {kNd, "UCArVig", 5, "Sup. apoyo der. 2"},
+             {kNd, "UCArVig", 6, "Sup. apoyo der. 3"},
+             {kNd, "UCArVig", 7, "Inferior adicional 1"},
+             {kNd, "UCArVig", 8, "Inferior adicional 2"},
+             {kNd, "UCArVig", 9, "Sup. voladizo izq."},
+             {kNd, "UCArVig", 10, "Sup. voladizo der."},
+             {kCk, "ChArV", 1, "Sup. izq. 1"}, {kCk, "ChArV", 2, "Sup. izq. 2"}, {kCk, "ChArV", 3, "Sup. izq. 3"},
+             {kCk, "ChArV", 4, "Sup. der. 1"}, {kCk, "ChArV", 5, "Sup. der. 2"}, {kCk, "ChArV", 6, "Sup. der. 3"},
+             {kCk, "ChArV", 8, "Inferior adicional"},
+             {kTx, "TxLv", -1, "Longitud (m)"},
+             {kNs, "UCArCer", 0, "Tramo izquierdo"},
+             {kNs, "UCArCer", 1, "Tramo central"},
+             {kNs, "UCArCer", 2, "Tramo derecho"},
          }),
          MenuDef{"Hormigon", 1, "VigasH", "Vigas"}, kGruposVigHorm, &CreaDe<VigHorm>},
         {"frmVigRegHorm", kCamposFrmVigRegHorm,

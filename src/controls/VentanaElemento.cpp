@@ -73,7 +73,9 @@ protected:
                 poligono << punto(q);
             switch (t.figura) {
             case FiguraCroquis::Poligono:
-                p.setPen(t.papel == PapelCroquis::Hormigon ? QPen(QColor("#44546a"), 1) : QPen(Qt::NoPen));
+                // Concrete and loads are outlined; the ground, the rooms and the bars are not.
+                p.setPen(t.papel == PapelCroquis::Hormigon || t.papel == PapelCroquis::Carga ? Pluma(t.papel)
+                                                                                             : QPen(Qt::NoPen));
                 p.setBrush(Relleno(t.papel, fondo));
                 p.drawPolygon(poligono);
                 if (t.papel == PapelCroquis::Terreno) {
@@ -108,6 +110,8 @@ private:
         case PapelCroquis::Terreno: return QColor("#e6d8bd");
         case PapelCroquis::Hormigon: return QColor("#c3cad4");
         case PapelCroquis::Hueco: return fondo;
+        case PapelCroquis::Armadura: return QColor("#1f7a3a");
+        case PapelCroquis::Carga: return QColor("#f4d9d5");
         default: return Qt::NoBrush;
         }
     }
@@ -116,6 +120,7 @@ private:
         switch (papel) {
         case PapelCroquis::Superficie: return QPen(QColor("#5b4a2a"), 2);
         case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
+        case PapelCroquis::Armadura: return QPen(QColor("#1f7a3a"), 1.6);
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
         default: return QPen(QColor("#1d3557"), 1);
         }
@@ -284,10 +289,11 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     auto* rejilla = new QGridLayout(grupo);
     rejilla->setHorizontalSpacing(6);
     rejilla->setVerticalSpacing(3);
-    // Long groups of small fields take two pairs a row.
+    // Long groups of small fields take two pairs a row; a sketch among them takes its own band.
     const bool dosPorFila = g.miembros.size() > 6 && std::all_of(g.miembros.begin(), g.miembros.end(), [](const Control* c) {
                                 return c->kind() == Kind::TextBox || c->kind() == Kind::ComboBox ||
-                                       c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton;
+                                       c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton ||
+                                       c->kind() == Kind::PictureBox;
                             });
     const int anchoFila = dosPorFila ? 6 : 3;
     const auto* elemento = dynamic_cast<const ElementForm*>(form_.get());

@@ -22,6 +22,7 @@ enum class PapelCroquis {
     Superficie,  // the ground's surface line
     Cota,        // a dimension
     Carga,       // a load on the ground
+    Armadura,    // the bars and stirrups of a concrete section
 };
 
 enum class FiguraCroquis {
