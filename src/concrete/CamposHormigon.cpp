@@ -22,28 +22,32 @@ constexpr Valor kMinimosMensCorta[] = {{"TxCota", {{0, 6}}, 0}};
 constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {{0, 4}}, 0}, {"TxCotaH2", {{0, 4}}, 0}, {"TxCotaRampa", {{0, 0}}, 0}};
 
 
-// The concrete beam's window: the beam drawn with the fields of each side under it (left side
-// in the first column, right side in the second), the stretches with the load of each beside its
-// length, its data, the section drawn beside its sizes, the bars, the optional layers with their
-// lengths, the stirrups and the transverse bending.
+// The concrete beam's window: the beam drawn, the stretches with the load of each beside its
+// length and the span's point loads, the sections of the span and of the cantilevers drawn over
+// their sizes; each end's cantilever and support, its data and the transverse bending; the bars,
+// the optional layers with their lengths; the stirrups under the sections.
 constexpr std::string_view kVigHormDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta"};
-constexpr std::string_view kVigHormViga[] = {"PctViga",   "ChVigIzq",  "ChVigDer",  "TxCota(0)", "TxCota(4)",
-                                             "TxtQ(0)",   "TxtQ(4)",   "ChPilIzq",  "ChPilDer",  "TxtPil(0)",
-                                             "TxtPil(1)", "TxtQ(5)",   "TxtQ(6)"};
-constexpr std::string_view kVigHormTramos[] = {"CmTramos", "TxCota(1)", "TxCota(2)", "TxtQ(1)",
-                                               "TxCota(3)", "TxtQ(2)",  "TxtQ(3)"};
+constexpr std::string_view kVigHormViga[] = {"PctViga"};
+constexpr std::string_view kVigHormIzquierda[] = {"ChVigIzq", "LbVolIzq", "TxCota(0)", "LbCargaVolIzq", "TxtQ(0)",
+                                                  "ChPilIzq", "LbPilIzq", "TxtPil(0)"};
+constexpr std::string_view kVigHormDerecha[] = {"ChVigDer", "LbVolDer", "TxCota(4)", "LbCargaVolDer", "TxtQ(4)",
+                                                "ChPilDer", "LbPilDer", "TxtPil(1)"};
+constexpr std::string_view kVigHormTramos[] = {"CmTramos", "TxCota(1)", "TxCota(2)", "TxtQ(1)",   "TxCota(3)",
+                                               "TxtQ(2)",  "TxtQ(3)",   "LbCargaP1", "TxtQ(5)", "LbCargaP2", "TxtQ(6)"};
 constexpr std::string_view kVigHormSeccion[] = {"PctSeccion", "PictIzq", "PictDer", "TextDviga(0)", "TextDviga(1)"};
 constexpr std::string_view kVigHormBarras[] = {"UCArVig"};
-constexpr std::string_view kVigHormCapas[] = {"ChArV(1)", "TxLv(1)", "ChArV(2)", "TxLv(2)", "ChArV(3)", "TxLv(3)",
-                                              "ChArV(4)", "TxLv(4)", "ChArV(5)", "TxLv(5)", "ChArV(6)", "TxLv(6)",
-                                              "ChArV(8)", "TxLv(7)", "TxLv(8)"};
+constexpr std::string_view kVigHormCapasIzq[] = {"ChArV(1)", "TxLv(1)", "ChArV(2)", "TxLv(2)", "ChArV(3)", "TxLv(3)"};
+constexpr std::string_view kVigHormCapasDer[] = {"ChArV(4)", "TxLv(4)", "ChArV(5)", "TxLv(5)", "ChArV(6)", "TxLv(6)"};
+constexpr std::string_view kVigHormCapasInf[] = {"ChArV(8)", "TxLv(7)", "TxLv(8)"};
 constexpr std::string_view kVigHormCercos[] = {"UCArCer"};
 constexpr std::string_view kVigHormTransversal[] = {"ChTrans", "TxCota(5)", "TxCota(6)"};
 constexpr GrupoDef kGruposVigHorm[] = {
-    {"FrViga", 0, kVigHormViga, {}, 0},          {"FrTramosViga", 0, kVigHormTramos, {}, 0},
-    {"FrDatosViga", 0, kVigHormDatos, {}, 1},    {"FrSeccionViga", 0, kVigHormSeccion, {}, 1},
-    {"UCframeT", 0, kVigHormTransversal, {}, 1}, {"FrArmadoViga", 0, kVigHormBarras, {}, 2},
-    {"FrCapasViga", 0, kVigHormCapas, {}, 2},    {"FrCercosViga", 0, kVigHormCercos, {}, 2},
+    {"FrViga", 0, kVigHormViga, {}, 0},           {"FrTramosViga", 0, kVigHormTramos, {}, 0},
+    {"FrSeccionViga", 0, kVigHormSeccion, {}, 0}, {"FrCercosViga", 0, kVigHormCercos, {}, 0},
+    {"FrIzquierdaViga", 0, kVigHormIzquierda, {}, 1}, {"FrDerechaViga", 0, kVigHormDerecha, {}, 1},
+    {"FrDatosViga", 0, kVigHormDatos, {}, 1},     {"UCframeT", 0, kVigHormTransversal, {}, 1},
+    {"FrArmadoViga", 0, kVigHormBarras, {}, 2},   {"FrCapasIzqViga", 0, kVigHormCapasIzq, {}, 2},
+    {"FrCapasDerViga", 0, kVigHormCapasDer, {}, 2}, {"FrCapasInfViga", 0, kVigHormCapasInf, {}, 2},
 };
 
 // The stored fields of each form, in the order of its record.
@@ -272,9 +276,13 @@ std::span<const TablaForm> TablasHormigon()
              {kFr, "FrDatosViga", -1, "Datos iniciales"},
              {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
              {kFr, "FrTramosViga", -1, "Tramos y cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrIzquierdaViga", -1, "Extremo izquierdo"},
+             {kFr, "FrDerechaViga", -1, "Extremo derecho"},
              {kFr, "FrSeccionViga", -1, "Sección (cm)"},
              {kFr, "FrArmadoViga", -1, "Armado"},
-             {kFr, "FrCapasViga", -1, "Capas adicionales y su longitud (m)"},
+             {kFr, "FrCapasIzqViga", -1, "Capas sobre el apoyo izquierdo"},
+             {kFr, "FrCapasDerViga", -1, "Capas sobre el apoyo derecho"},
+             {kFr, "FrCapasInfViga", -1, "Barras inferiores adicionales"},
              {kFr, "FrCercosViga", -1, "Cercos (cercos de 2 ramas)"},
              {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
              {kPc, "PctViga", -1, ""},
@@ -284,36 +292,29 @@ std::span<const TablaForm> TablasHormigon()
              {kPc, "ImgApo", 0, ""},
              {kPc, "ImgApo", 1, ""},
              {kCb, "CmTramos", -1, "Nº de tramos de carga"},
-             {kCk, "ChVigIzq", -1, "Voladizo o viga continua izq."},
-             {kCk, "ChVigDer", -1, "Voladizo o viga continua der."},
-             {kTx, "TxCota", 0, "Voladizo izquierdo (m)"},
-             {kTx, "TxCota", 4, "Voladizo derecho (m)"},
-             {kTx, "TxtQ", 0, "P1 voladizo izq."},
-             {kTx, "TxtQ", 4, "P2 voladizo der."},
-             {kTx, "TxtQ", 5, "P a 1/3 del vano"},
-             {kTx, "TxtQ", 6, "P a 2/3 del vano"},
-             {kTx, "TxtQ", 1, "q1 tramo 1"},
-             {kTx, "TxtQ", 2, "q2 tramo 2"},
-             {kTx, "TxtQ", 3, "q3 tramo 3"},
-             {kCk, "ChPilIzq", -1, "Pilar inferior izq."},
-             {kCk, "ChPilDer", -1, "Pilar inferior der."},
-             {kTx, "TxtPil", 0, "Canto pilar izq. (cm)"},
-             {kTx, "TxtPil", 1, "Canto pilar der. (cm)"},
+             // The names of the fields beside the picture, each side in its own column.
+             {kLb, "LbVolIzq", -1, "Voladizo (m)"},
+             {kLb, "LbVolDer", -1, "Voladizo (m)"},
+             {kLb, "LbCargaVolIzq", -1, "P1 en la punta"},
+             {kLb, "LbCargaVolDer", -1, "P2 en la punta"},
+             {kLb, "LbPilIzq", -1, "Canto pilar (cm)"},
+             {kLb, "LbPilDer", -1, "Canto pilar (cm)"},
+             {kLb, "LbCargaP1", -1, "P a 1/3 del vano"},
+             {kLb, "LbCargaP2", -1, "P a 2/3 del vano"},
              {kNd, "UCArVig", 0, "Inferior"},
-             {kNd, "UCArVig", 1, "Sup. apoyo izq. 1"},
-             {kNd, "UCArVig", 2, "Sup. apoyo izq. 2"},
-             {kNd, "UCArVig", 3, "Sup. apoyo izq. 3"},
-             {kNd, "UCArVig", 4, "Sup. apoyo der. 1"},
-             {kNd, "UCArVig", 5, "Sup. apoyo der. 2"},
-             {kNd, "UCArVig", 6, "Sup. apoyo der. 3"},
-             {kNd, "UCArVig", 7, "Inferior adicional 1"},
-             {kNd, "UCArVig", 8, "Inferior adicional 2"},
-             {kNd, "UCArVig", 9, "Sup. voladizo izq."},
-             {kNd, "UCArVig", 10, "Sup. voladizo der."},
+             {kNd, "UCArVig", 1, "Sup. izq. 1"},
+             {kNd, "UCArVig", 2, "Sup. izq. 2"},
+             {kNd, "UCArVig", 3, "Sup. izq. 3"},
+             {kNd, "UCArVig", 4, "Sup. der. 1"},
+             {kNd, "UCArVig", 5, "Sup. der. 2"},
+             {kNd, "UCArVig", 6, "Sup. der. 3"},
+             {kNd, "UCArVig", 7, "Inf. adic. 1"},
+             {kNd, "UCArVig", 8, "Inf. adic. 2"},
+             {kNd, "UCArVig", 9, "Voladizo izq."},
+             {kNd, "UCArVig", 10, "Voladizo der."},
              {kCk, "ChArV", 1, "Sup. izq. 1"}, {kCk, "ChArV", 2, "Sup. izq. 2"}, {kCk, "ChArV", 3, "Sup. izq. 3"},
              {kCk, "ChArV", 4, "Sup. der. 1"}, {kCk, "ChArV", 5, "Sup. der. 2"}, {kCk, "ChArV", 6, "Sup. der. 3"},
-             {kCk, "ChArV", 8, "Inferior adicional"},
-             {kTx, "TxLv", -1, "Longitud (m)"},
+             {kCk, "ChArV", 8, "Inf. adicionales"},
              {kNs, "UCArCer", 0, "Tramo izquierdo"},
              {kNs, "UCArCer", 1, "Tramo central"},
              {kNs, "UCArCer", 2, "Tramo derecho"},
@@ -356,6 +357,16 @@ std::span<const TablaForm> TablasHormigon()
              {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
              {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
              {kFr, "UCframeDim", -1, "Dimensiones en cm.   Armadura lateral por cara."},
+             {kTx, "txtTramo", 0, "Diámetro (cm)"},
+             {kTx, "txtTramo", 3, "Lado b (cm)"},
+             {kTx, "txtTramo", 4, "Lado h (cm)"},
+             {kNd, "UCArmPilar", 0, "Circular"},
+             {kNd, "UCArmPilar", 1, "Cara superior"},
+             {kNd, "UCArmPilar", 2, "Cara inferior"},
+             {kNd, "UCArmPilar", 3, "Lateral izq."},
+             {kNd, "UCArmPilar", 4, "Lateral der."},
+             {kCk, "ChPil", 3, "Horquilla lateral izq."},
+             {kCk, "ChPil", 4, "Horquilla lateral der."},
              {kCb, "CmbForma", -1, "Forma"},
              {kPc, "PctCuadr", -1, ""},
              {kPc, "PctCir", -1, ""},

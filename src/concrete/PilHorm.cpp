@@ -329,8 +329,10 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
     // Room around the plan for the dimension lines and their names.
     constexpr int kMargen = 700;
     constexpr int kLado = 160;
+    // Room at the right for the names and values of the distances across.
+    constexpr int kRotulos = 1100;
     Croquis c;
-    c.ancho = a1 + a2 + 2 * kMargen;
+    c.ancho = a1 + a2 + 2 * kMargen + kRotulos;
     c.alto = a3 + a4 + 2 * kMargen;
     const PuntoCroquis o{kMargen + a1, kMargen + a3};
     // The tributary area: half of each span; a cantilever to the façade counts whole.
@@ -359,7 +361,7 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
     if (!bordeY)
         pilar({o.x, o.y + a4});
     // The four distances under the names of their fields; the fields beside hold the values.
-    const int arriba = kMargen - 150, derecha = c.ancho - kMargen + 150;
+    const int arriba = kMargen - 150, derecha = c.ancho - kRotulos - kMargen + 150;
     auto nombre = [&](int i) { return "a" + std::to_string(i + 1) + "=" + At("LePil", primera + i).Text(); };
     c.Cota({o.x - a1, arriba}, {o.x, arriba}, nombre(0));
     c.Cota({o.x, arriba}, {o.x + a2, arriba}, nombre(1));
@@ -381,7 +383,7 @@ int Entero(const Control& c, const char* propiedad) { return static_cast<int>(Va
 Croquis PilHorm::CroquisSeccion(bool circular) const
 {
     // Twips: the section fitted into a square of kLado, its sizes and bars named beside it.
-    constexpr int kAncho = 2600, kAlto = 2300, kLado = 1500, kRecubrimiento = 110, kBarra = 70;
+    constexpr int kAncho = 3200, kAlto = 2400, kLado = 1500, kRecubrimiento = 110, kBarra = 70;
     Croquis c;
     c.ancho = kAncho;
     c.alto = kAlto;
@@ -442,7 +444,7 @@ Croquis PilHorm::CroquisSeccion(bool circular) const
         c.Texto(PapelCroquis::Armadura, {cara == 3 ? izq - 330 : der + 330, cy}, TextoBarras(barras));
     }
     c.Texto(PapelCroquis::Cota, {cx, aba + 300}, "b=" + At("txtTramo", 3).Text());
-    c.Texto(PapelCroquis::Cota, {der + 330, aba - 60}, "h=" + At("txtTramo", 4).Text());
+    c.Texto(PapelCroquis::Cota, {der + 450, aba + 200}, "h=" + At("txtTramo", 4).Text());
     return c;
 }
 

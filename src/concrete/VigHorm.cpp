@@ -26,13 +26,15 @@ struct PartesVoladizo {
     const char* casilla;
     int cota, carga, barras;
     const char* seccion;
+    const char* rotulos[2];  // the window's names of its length and of its load
 };
-constexpr PartesVoladizo kVoladizos[] = {{"ChVigIzq", 0, 0, 9, "PictIzq"}, {"ChVigDer", 4, 4, 10, "PictDer"}};
+constexpr PartesVoladizo kVoladizos[] = {{"ChVigIzq", 0, 0, 9, "PictIzq", {"LbVolIzq", "LbCargaVolIzq"}},
+                                         {"ChVigDer", 4, 4, 10, "PictDer", {"LbVolDer", "LbCargaVolDer"}}};
 constexpr const char* kPilares[] = {"ChPilIzq", "ChPilDer"};
 
 // The beam picture, twips: the span between the supports' axes x0 and x1, the cantilevers
 // beyond, the beam between yArriba and yAbajo.
-constexpr int kAnchoViga = 6400, kAltoViga = 3300;
+constexpr int kAnchoViga = 6400, kAltoViga = 2800;
 constexpr int kX0 = 1000, kX1 = 5400, kVoladizo = 800;
 constexpr int kArriba = 1250, kCanto = 320, kAbajo = kArriba + kCanto;
 constexpr int kAltoCarga = 600, kAltoPilar = 450;
@@ -207,8 +209,9 @@ void VigHorm::PresentaVoladizo(int lado)
     At("TxCota", p.cota).SetVisible(voladizo);
     At("TxtQ", p.carga).SetVisible(voladizo);
     At("UCArVig", p.barras).SetVisible(voladizo);
-    if (Control* seccion = Find(p.seccion))
-        seccion->SetVisible(voladizo);
+    for (const char* nombre : {p.seccion, p.rotulos[0], p.rotulos[1]})
+        if (Control* c = Find(nombre))
+            c->SetVisible(voladizo);
 }
 
 void VigHorm::PresentaApoyo(int lado)
@@ -439,7 +442,7 @@ void VigHorm::DibujaArmado(Croquis& c, int izq, int der, int x0, int x1, int arr
 Croquis VigHorm::CroquisSeccion(int voladizo) const
 {
     // Twips: the section fitted into a square of kLado, centred, its sizes 60 twips beside it.
-    constexpr int kAncho = 2600, kAlto = 2300, kLado = 1500, kSeparacion = 60;
+    constexpr int kAncho = 3000, kAlto = 2300, kLado = 1400, kSeparacion = 60;
     const double b = Campo(*this, "TextDviga", 0), h = Campo(*this, "TextDviga", 1);
     const SeccionDibujada s = FormaSeccion(b, h);
     Croquis c;
@@ -457,29 +460,31 @@ Croquis VigHorm::CroquisSeccion(int voladizo) const
     const int r = std::clamp(static_cast<int>(recub), 30, std::min(w, alto) / 4);
     c.trazos.push_back({FiguraCroquis::Linea, PapelCroquis::Armadura,
                         {{izq + r, arr + r}, {der - r, arr + r}, {der - r, aba - r}, {izq + r, aba - r}, {izq + r, arr + r}}});
-    auto fila = [&](const Control& barras, int y, int etiquetaY) {
+    // Each row of bars; the main rows are named beside the section, the extra layers by their fields.
+    auto fila = [&](const Control& barras, int y, bool nombrada) {
         const int n = std::clamp(static_cast<int>(ValComaCopy(barras.Get("NumBarras"))), 0, 12);
         const int lado = std::clamp(static_cast<int>(ValComaCopy(barras.Get("Diametro")) / 10 * escala), 30, 90);
         for (int k = 0; k < n; ++k) {
             const int x = n == 1 ? cx : izq + r + lado / 2 + (w - 2 * r - lado) * k / (n - 1);
             c.Rectangulo(PapelCroquis::Armadura, x - lado / 2, y - lado / 2, x + lado / 2, y + lado / 2);
         }
-        c.Texto(PapelCroquis::Armadura, {izq - kSeparacion - 280, etiquetaY}, TextoBarras(barras));
+        if (nombrada)
+            c.Texto(PapelCroquis::Armadura, {izq - kSeparacion - 280, y}, TextoBarras(barras));
     };
     const int paso = std::max(60, static_cast<int>(2.5 * escala));
     const int yInf = aba - r - 45;
-    fila(At("UCArVig", 0), yInf, yInf);
+    fila(At("UCArVig", 0), yInf, true);
     if (voladizo < 0) {
         // The span: the extra bottom layers over the bottom bars.
         int y = yInf;
         for (int capa = 7; capa <= 8; ++capa)
             if (At("ChArV", CasillaDeCapa(capa)).CheckValue() != 0) {
                 y -= paso;
-                fila(At("UCArVig", capa), y, y - 80);
+                fila(At("UCArVig", capa), y, false);
             }
     } else {
         const int ySup = arr + r + 45;
-        fila(At("UCArVig", kVoladizos[voladizo].barras), ySup, ySup);
+        fila(At("UCArVig", kVoladizos[voladizo].barras), ySup, true);
     }
     // The sizes beside the shape: the width under it, the depth at its right.
     c.Texto(PapelCroquis::Cota, {cx, aba + kSeparacion + 110}, "b=" + At("TextDviga", 0).Text());

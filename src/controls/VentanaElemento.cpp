@@ -47,6 +47,14 @@ public:
     }
 
 protected:
+    // The layout gives the width; the height follows it, so that the drawing fills its room.
+    void resizeEvent(QResizeEvent* e) override
+    {
+        QWidget::resizeEvent(e);
+        const int alto = heightForWidth(width());
+        if (alto != minimumHeight())
+            setMinimumHeight(alto);
+    }
     void paintEvent(QPaintEvent*) override
     {
         const std::optional<Croquis> croquis = form_.CroquisDe(picture_);
@@ -97,7 +105,10 @@ protected:
                 break;
             case FiguraCroquis::Texto:
                 p.setPen(Pluma(t.papel));
-                p.drawText(QRectF(poligono[0].x() - 40, poligono[0].y() - 9, 80, 18), Qt::AlignCenter, Q(t.texto));
+            {
+                const double ancho = std::max(80.0, p.fontMetrics().horizontalAdvance(Q(t.texto)) + 4.0);
+                p.drawText(QRectF(poligono[0].x() - ancho / 2, poligono[0].y() - 9, ancho, 18), Qt::AlignCenter, Q(t.texto));
+            }
                 break;
             }
         }
@@ -146,8 +157,11 @@ private:
             p.drawLine(q + QPointF(-3, 3), q + QPointF(3, -3));
         const QPointF medio = (a + b) / 2;
         const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
-        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 18, 18) : QRectF(medio.x() - 9, medio.y() - 17, 18, 16);
-        p.drawText(caja, Qt::AlignCenter, texto);
+        // The box takes the text's width: a dimension may name its value as well as its letter.
+        const double ancho = std::max(18.0, p.fontMetrics().horizontalAdvance(texto) + 4.0);
+        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, ancho, 18)
+                                     : QRectF(medio.x() - ancho / 2, medio.y() - 17, ancho, 16);
+        p.drawText(caja, vertical ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter, texto);
     }
 
     const ElementForm& form_;
