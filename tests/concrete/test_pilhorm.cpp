@@ -262,6 +262,17 @@ TEST_F(Column, SwitchingPositionsKeepsEveryPositionsDistances)
     EXPECT_EQ(Esfuerzos(*f), Casos()[0].esperado);
 }
 
+// The design loads of the panel: the moments 0, the axial force 40 and the enclosure 800 kg/m,
+// each in the field of its meaning.
+TEST_F(Column, DesignLoadsStandInTheFieldsOfTheirMeaning)
+{
+    auto f = Load();
+    const std::pair<int, const char*> esperados[] = {{0, "0"}, {1, "0"}, {2, "40"}, {3, "800"}};
+    for (const auto& [i, texto] : esperados)
+        EXPECT_EQ(f->At("TxtQ", i).designText, texto) << i;
+    EXPECT_EQ(f->At("TxtQ", 2).Text(), "40");
+}
+
 TEST_F(Column, TypedLoadsAreRecalculatedAndNoEventRunsWhileLoading)
 {
     auto f = Load();
