@@ -72,7 +72,8 @@ SeccionDibujada FormaSeccion(double b, double h)
 
 void CalculaMaterialesViga(VariablesViga& v)
 {
-    v.gamma = (v.gammaG * v.g + v.gammaQ * v.q) / (v.g + v.q);
+    // Without level loads (no level taken) there is no mean factor to weigh.
+    v.gamma = v.g + v.q != 0 ? (v.gammaG * v.g + v.gammaQ * v.q) / (v.g + v.q) : 0;
     v.gammaC = kGammaHormigon;
     v.gammaS = kGammaAcero;
     const Resistencias r = ResistenciasDeCalculo(v.fck, v.fyk, v.reducido);
@@ -267,15 +268,10 @@ VariablesViga VigHorm::ReuneVariables(const DatosComprobacion& datos)
     v.gammaQ = datos.gammaS;
     const Control& control = At("cmbControl");
     v.reducido = control.ListIndex() >= 0 && IndiceMaterial(control.ListIndex(), d.GenControl) == 0;
+    // A level without loads has no mean factor: the run-time error of the division, told in words.
     if (v.nivel >= 0 && v.g + v.q == 0)
         throw ErrorEjecucion(kErrDivisionPorCero, Mensaje(d, kMsgCargasNulas, {At("CmbPlanta").SelectedText()}));
-    if (v.nivel >= 0) {
-        CalculaMaterialesViga(v);
-    } else {
-        const Resistencias r = ResistenciasDeCalculo(v.fck, v.fyk, v.reducido);
-        v.fcd = r.fcd;
-        v.fyd = r.fyd;
-    }
+    CalculaMaterialesViga(v);
 
     // Sizes in metres: the section and the columns in cm, the cover in mm, the lengths in m.
     v.b = Campo(*this, "TextDviga", 0) / 100;

@@ -66,8 +66,9 @@ struct VariablesViga {
     std::array<double, 3> separacionCercos{}; // UCArCer(i) spacing, cm
 };
 
-// Steps 5 and 6 of the gathering: the mean load factor and the design strengths from the
-// level's loads, the strengths and the factors already in `v`. g + q must not be 0.
+// The mean load factor and the design strengths from the level's loads, the strengths and the
+// factors already in `v`; a g + q of 0 weighs nothing and leaves the mean factor 0 (the form
+// refuses such a level before).
 void CalculaMaterialesViga(VariablesViga& v);
 
 class VigHorm : public FormaViga {
