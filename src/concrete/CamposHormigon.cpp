@@ -34,20 +34,86 @@ constexpr Valor kMinimosMensCorta[] = {{"TxCota", {{0, 6}}, 0}};
 constexpr Valor kMinimosEscHorm[] = {{"TxCotaH1", {{0, 3}}, 0}, {"TxCotaDesc", {{0, 4}}, 0}, {"TxCotaH2", {{0, 4}}, 0}, {"TxCotaRampa", {{0, 0}}, 0}};
 
 
-// The concrete beam's window: its data, the beam drawn with its lengths and stretches beside
-// it, the loads of each stretch, the reinforcement and the transverse bending.
+// The concrete beam as its window draws it: the frames of the beam, its ends, section and bars,
+// the pictures and the names of the fields beside them. The regular beam draws the same beam.
+const std::vector<ControlVisible>& EtiquetasDibujoVigaHormigon()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "FrDatosViga", -1, "Datos iniciales"},
+        {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+        {kFr, "FrTramosViga", -1, "Tramos y cargas totales (con.+sobr.) sin mayorar"},
+        {kFr, "FrIzquierdaViga", -1, "Extremo izquierdo"},
+        {kFr, "FrDerechaViga", -1, "Extremo derecho"},
+        {kFr, "FrSeccionViga", -1, "Sección (cm)"},
+        {kFr, "FrArmadoViga", -1, "Armado"},
+        {kFr, "FrCapasIzqViga", -1, "Capas sobre el apoyo izquierdo"},
+        {kFr, "FrCapasDerViga", -1, "Capas sobre el apoyo derecho"},
+        {kFr, "FrCapasInfViga", -1, "Barras inferiores adicionales"},
+        {kFr, "FrCercosViga", -1, "Cercos (cercos de 2 ramas)"},
+        {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
+        {kPc, "PctViga", -1, ""},
+        {kPc, "PctSeccion", -1, ""},
+        {kPc, "PictIzq", -1, ""},
+        {kPc, "PictDer", -1, ""},
+        {kPc, "ImgApo", 0, ""},
+        {kPc, "ImgApo", 1, ""},
+        {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+        // The names of the fields beside the picture, each side in its own column.
+        {kLb, "LbVolIzq", -1, "Voladizo (m)"},
+        {kLb, "LbVolDer", -1, "Voladizo (m)"},
+        {kLb, "LbCargaVolIzq", -1, "P1 en la punta"},
+        {kLb, "LbCargaVolDer", -1, "P2 en la punta"},
+        {kLb, "LbPilIzq", -1, "Canto pilar (cm)"},
+        {kLb, "LbPilDer", -1, "Canto pilar (cm)"},
+        {kLb, "LbCargaP1", -1, "P a 1/3 del vano"},
+        {kLb, "LbCargaP2", -1, "P a 2/3 del vano"},
+        {kNd, "UCArVig", 0, "Inferior"},
+        {kNd, "UCArVig", 1, "Sup. izq. 1"},
+        {kNd, "UCArVig", 2, "Sup. izq. 2"},
+        {kNd, "UCArVig", 3, "Sup. izq. 3"},
+        {kNd, "UCArVig", 4, "Sup. der. 1"},
+        {kNd, "UCArVig", 5, "Sup. der. 2"},
+        {kNd, "UCArVig", 6, "Sup. der. 3"},
+        {kNd, "UCArVig", 7, "Inf. adic. 1"},
+        {kNd, "UCArVig", 8, "Inf. adic. 2"},
+        {kNd, "UCArVig", 9, "Voladizo izq."},
+        {kNd, "UCArVig", 10, "Voladizo der."},
+        {kCk, "ChArV", 1, "Sup. izq. 1"}, {kCk, "ChArV", 2, "Sup. izq. 2"}, {kCk, "ChArV", 3, "Sup. izq. 3"},
+        {kCk, "ChArV", 4, "Sup. der. 1"}, {kCk, "ChArV", 5, "Sup. der. 2"}, {kCk, "ChArV", 6, "Sup. der. 3"},
+        {kCk, "ChArV", 8, "Inf. adicionales"},
+        {kNs, "UCArCer", 0, "Tramo izquierdo"},
+        {kNs, "UCArCer", 1, "Tramo central"},
+        {kNs, "UCArCer", 2, "Tramo derecho"},
+    };
+    return filas;
+}
+
+// The concrete beam's window: the beam drawn, the stretches with the load of each beside its
+// length and the span's point loads, the sections of the span and of the cantilevers drawn over
+// their sizes; each end's cantilever and support, its data and the transverse bending; the bars,
+// the optional layers with their lengths; the stirrups under the sections.
 constexpr std::string_view kVigHormDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta"};
-constexpr std::string_view kVigHormViga[] = {"PctViga",   "CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)",
-                                             "TxCota(0)", "TxCota(4)", "TextDviga", "TxtPil(0)", "TxtPil(1)",
-                                             "ChVigIzq",  "ChVigDer",  "ChPilIzq",  "ChPilDer"};
-constexpr std::string_view kVigHormCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)"};
-constexpr std::string_view kVigHormPuntuales[] = {"TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(4)"};
-constexpr std::string_view kVigHormArmado[] = {"UCArVig", "UCArCer", "ChArV", "TxLv"};
+constexpr std::string_view kVigHormViga[] = {"PctViga"};
+constexpr std::string_view kVigHormIzquierda[] = {"ChVigIzq", "LbVolIzq", "TxCota(0)", "LbCargaVolIzq", "TxtQ(0)",
+                                                  "ChPilIzq", "LbPilIzq", "TxtPil(0)"};
+constexpr std::string_view kVigHormDerecha[] = {"ChVigDer", "LbVolDer", "TxCota(4)", "LbCargaVolDer", "TxtQ(4)",
+                                                "ChPilDer", "LbPilDer", "TxtPil(1)"};
+constexpr std::string_view kVigHormTramos[] = {"CmTramos", "TxCota(1)", "TxCota(2)", "TxtQ(1)",   "TxCota(3)",
+                                               "TxtQ(2)",  "TxtQ(3)",   "LbCargaP1", "TxtQ(5)", "LbCargaP2", "TxtQ(6)"};
+constexpr std::string_view kVigHormSeccion[] = {"PctSeccion", "PictIzq", "PictDer", "TextDviga(0)", "TextDviga(1)"};
+constexpr std::string_view kVigHormBarras[] = {"UCArVig"};
+constexpr std::string_view kVigHormCapasIzq[] = {"ChArV(1)", "TxLv(1)", "ChArV(2)", "TxLv(2)", "ChArV(3)", "TxLv(3)"};
+constexpr std::string_view kVigHormCapasDer[] = {"ChArV(4)", "TxLv(4)", "ChArV(5)", "TxLv(5)", "ChArV(6)", "TxLv(6)"};
+constexpr std::string_view kVigHormCapasInf[] = {"ChArV(8)", "TxLv(7)", "TxLv(8)"};
+constexpr std::string_view kVigHormCercos[] = {"UCArCer"};
 constexpr std::string_view kVigHormTransversal[] = {"ChTrans", "TxCota(5)", "TxCota(6)"};
 constexpr GrupoDef kGruposVigHorm[] = {
-    {"FrViga", 0, kVigHormViga, {}, 0},          {"FrDatosViga", 0, kVigHormDatos, {}, 1},
-    {"FrCargasViga", 0, kVigHormCargas, {}, 1},  {"FrPuntualesViga", 0, kVigHormPuntuales, {}, 1},
-    {"FrArmadoViga", 0, kVigHormArmado, {}, 2},  {"UCframeT", 0, kVigHormTransversal, {}, 1},
+    {"FrViga", 0, kVigHormViga, {}, 0},           {"FrTramosViga", 0, kVigHormTramos, {}, 0},
+    {"FrSeccionViga", 0, kVigHormSeccion, {}, 0}, {"FrCercosViga", 0, kVigHormCercos, {}, 0},
+    {"FrIzquierdaViga", 0, kVigHormIzquierda, {}, 1}, {"FrDerechaViga", 0, kVigHormDerecha, {}, 1},
+    {"FrDatosViga", 0, kVigHormDatos, {}, 1},     {"UCframeT", 0, kVigHormTransversal, {}, 1},
+    {"FrArmadoViga", 0, kVigHormBarras, {}, 2},   {"FrCapasIzqViga", 0, kVigHormCapasIzq, {}, 2},
+    {"FrCapasDerViga", 0, kVigHormCapasDer, {}, 2}, {"FrCapasInfViga", 0, kVigHormCapasInf, {}, 2},
 };
 
 // The beam of a regular frame: the plan of the frame with its bays and the nine beams to choose
@@ -59,11 +125,14 @@ constexpr std::string_view kVigRegDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPa
 constexpr std::string_view kVigRegCerramiento[] = {"TxtQ(7)"};
 constexpr std::string_view kVigRegEsfuerzos[] = {"txtMom", "txtCor", "txtGiro"};
 constexpr GrupoDef kGruposVigRegHorm[] = {
-    {"FrEsquema", 0, kVigRegEsquema, {}, 0},        {"FrPortico", 0, kVigRegPortico, {}, 0},
-    {"FrViga", 0, kVigHormViga, {}, 1},             {"FrCargasViga", 0, kVigHormCargas, {}, 1},
-    {"FrDatosViga", 0, kVigRegDatos, {}, 2},        {"FrPuntualesViga", 0, kVigHormPuntuales, {}, 2},
-    {"FrCerramiento", 0, kVigRegCerramiento, {}, 2}, {"UCframeT", 0, kVigHormTransversal, {}, 2},
-    {"FrArmadoViga", 0, kVigHormArmado, {}, 1},     {"FrEsfuerzos", 0, kVigRegEsfuerzos, {}, 2},
+    {"FrEsquema", 0, kVigRegEsquema, {}, 0},          {"FrPortico", 0, kVigRegPortico, {}, 0},
+    {"FrViga", 0, kVigHormViga, {}, 0},               {"FrTramosViga", 0, kVigHormTramos, {}, 0},
+    {"FrSeccionViga", 0, kVigHormSeccion, {}, 0},     {"FrCercosViga", 0, kVigHormCercos, {}, 0},
+    {"FrIzquierdaViga", 0, kVigHormIzquierda, {}, 1}, {"FrDerechaViga", 0, kVigHormDerecha, {}, 1},
+    {"FrDatosViga", 0, kVigRegDatos, {}, 1},          {"FrCerramiento", 0, kVigRegCerramiento, {}, 1},
+    {"UCframeT", 0, kVigHormTransversal, {}, 1},      {"FrArmadoViga", 0, kVigHormBarras, {}, 2},
+    {"FrCapasIzqViga", 0, kVigHormCapasIzq, {}, 2},   {"FrCapasDerViga", 0, kVigHormCapasDer, {}, 2},
+    {"FrCapasInfViga", 0, kVigHormCapasInf, {}, 2},   {"FrEsfuerzos", 0, kVigRegEsfuerzos, {}, 2},
 };
 
 // The deep beam: the beam drawn with its spans and stretches, its loads, the beams beside it and
@@ -129,7 +198,7 @@ constexpr CampoDef kCamposFrmPilHorm[] = {
     {"CmbForma", {}, kLista}, {"cmbesviada", {}, kLista}, {"OpPosPil", {2, 1, 0}, kOpcion}, {"txtTitulo", {}, kTexto},
     {"UCArmPilar", {1, 3, 2, 4}, kNumDiam}, {"ChPil", {4, 3}, kCasilla}, {"txtTramo", {4, 3}, kTexto, {"30"}},
     {"UCCercos", {}, kNumDiamSep}, {"txtTramo", {0}, kTexto, {"30"}}, {"UCArmPilar", {0}, kNumDiam}, {"UCNumDiamSep1", {}, kNumDiamSep},
-    {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"0", "0", "40", "800"}}, {"ChPilSup", {}, kCasilla},
+    {"LePil", {12}, kTexto, {"3.10"}}, {"TxtQ", {2, 1, 3, 0}, kTexto, {"40", "0", "800", "0"}}, {"ChPilSup", {}, kCasilla},
 };
 static_assert(CamposBienFormados(kCamposFrmPilHorm));
 
@@ -143,7 +212,7 @@ constexpr std::string_view kPilarPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "Op
 constexpr std::string_view kPilarLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
 constexpr std::string_view kPilarLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
 constexpr std::string_view kPilarLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
-constexpr std::string_view kPilarSeccion[] = {"CmbForma", "txtTramo", "UCArmPilar", "ChPil", "cmbesviada", "Lbnota"};
+constexpr std::string_view kPilarSeccion[] = {"PctCuadr", "PctCir", "Pctllave", "CmbForma", "txtTramo", "UCArmPilar", "ChPil", "cmbesviada", "Lbnota"};
 constexpr std::string_view kPilarCercos[] = {"UCCercos", "UCNumDiamSep1"};
 constexpr std::string_view kPilarEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
 constexpr std::string_view kPilarCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
@@ -475,16 +544,8 @@ std::span<const TablaForm> TablasHormigon()
          ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
          // The beam: its frames, and the picture that the form draws from its fields.
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}, {
-             {kFr, "FrDatosViga", -1, "Datos iniciales"},
-             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
-             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
-             {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
-             {kFr, "FrArmadoViga", -1, "Armado"},
-             {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
-             {kPc, "PctViga", -1, ""},
-             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
-         }),
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon,
+                   EtiquetasDibujoVigaHormigon}),
          MenuDef{"Hormigon", 1, "VigasH", "Vigas"}, kGruposVigHorm, &CreaDe<VigHorm>},
         {"frmVigRegHorm", kCamposFrmVigRegHorm,
          {false, true, PasoComprobacion::OchoYSiete, false},
@@ -492,22 +553,15 @@ std::span<const TablaForm> TablasHormigon()
          Listas{{"cmbPart", -1, kParticionMuros}, {"cmbTrPort", -1, kTramosPortico}, {"cmbTrForj", -1, kTramosForjado}} + ListasExposicion() + ListasViga() + ListasHormigon(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
          // The beam of a regular portal frame: the frame around it, besides the beam's own fields.
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon}, {
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasArmadoViga, EtiquetasVigaHormigon,
+                   EtiquetasDibujoVigaHormigon}, {
              {kCb, "cmbTrPort", -1, "Nº tramos pórtico"},
              {kCb, "cmbTrForj", -1, "Nº tramos forjado"},
              {kFr, "FrEsquema", -1, "Esquema en planta"},
              {kPc, "Picture2", -1, ""},
              {kFr, "FrPortico", -1, "Pórtico"},
-             {kFr, "FrDatosViga", -1, "Datos iniciales"},
-             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
-             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
-             {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
              {kFr, "FrCerramiento", -1, "Cerramiento perimetral"},
-             {kFr, "FrArmadoViga", -1, "Armado"},
-             {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
              {kFr, "FrEsfuerzos", -1, "Esfuerzos del pórtico"},
-             {kPc, "PctViga", -1, ""},
-             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
              {kTx, "txtCotHz", -1, "Luces en planta (m)"},
              {kTx, "txtCotHz", 0, "Voladizo izquierdo (m)"},
              {kTx, "txtCotHz", 1, "Vano 1 (m)"},
@@ -549,6 +603,16 @@ std::span<const TablaForm> TablasHormigon()
              {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
              {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
              {kFr, "UCframeDim", -1, "Dimensiones en cm.   Armadura lateral por cara."},
+             {kTx, "txtTramo", 0, "Diámetro (cm)"},
+             {kTx, "txtTramo", 3, "Lado b (cm)"},
+             {kTx, "txtTramo", 4, "Lado h (cm)"},
+             {kNd, "UCArmPilar", 0, "Circular"},
+             {kNd, "UCArmPilar", 1, "Cara superior"},
+             {kNd, "UCArmPilar", 2, "Cara inferior"},
+             {kNd, "UCArmPilar", 3, "Lateral izq."},
+             {kNd, "UCArmPilar", 4, "Lateral der."},
+             {kCk, "ChPil", 3, "Horquilla lateral izq."},
+             {kCk, "ChPil", 4, "Horquilla lateral der."},
              {kCb, "CmbForma", -1, "Forma"},
              {kPc, "PctCuadr", -1, ""},
              {kPc, "PctCir", -1, ""},

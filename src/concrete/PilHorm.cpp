@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Texto.h"
+#include "frame/DatosCalculo.h"
 #include "frame/Finitos.h"
 #include "works/Declaraciones.h"
 #include "works/Subrut.h"
@@ -13,12 +14,6 @@ namespace vardena {
 namespace {
 
 constexpr int kMsgSinPosicion = 706;
-constexpr int kErrSubindice = 9;
-
-// The unit factor of fcd under control "Reducido", and that of fyd.
-constexpr double kFcdReducido = 1000;
-constexpr double kGammaC = 1.5;
-constexpr double kGammaS = 1.15;
 
 // The frame of each position's distances, by the index of OpPosPil.
 constexpr const char* kMarcoLuces[] = {"UCframeLucesEsq", "UCframeLucesBor", "UCframeLucesCen"};
@@ -216,24 +211,9 @@ double PilHorm::Luz(int index) const { return ValComaCopy(At("LePil", index).Tex
 
 void CargasDeNivel(const Declaraciones& d, int nivel, double& g, double& q)
 {
-    auto fuera = [&] {
-        return ErrorEjecucion(kErrSubindice, "CmbPlanta: " + std::to_string(nivel) + " is no level of the work");
-    };
-    if (nivel < 0)
-        throw fuera();
-    if (nivel > d.NPlantasSobre) {
-        const size_t s = static_cast<size_t>(nivel - d.NPlantasSobre);
-        if (s >= d.GenPProS.size())
-            throw fuera();
-        g = static_cast<double>(d.GenConcS[s]) + d.GenPProS[s];
-        q = static_cast<double>(d.GenSTabS[s]) + d.GenSobrS[s];
-        return;
-    }
-    const size_t p = static_cast<size_t>(nivel);
-    if (p >= d.GenPProP.size())
-        throw fuera();
-    g = static_cast<double>(d.GenConcP[p]) + d.GenPProP[p];
-    q = static_cast<double>(d.GenSTabP[p]) + d.GenSobrP[p];
+    const CargasPlanta c = CargasDePlanta(d, nivel);
+    g = c.g();
+    q = c.q();
 }
 
 MaterialesControl MaterialesDe(Form& form)
@@ -251,13 +231,9 @@ MaterialesControl MaterialesDe(Form& form)
         return m;
     const std::optional<int16_t> fck = FckIndice(d, IndiceMaterial(horm->ListIndex(), d.GenHorm));
     const std::optional<int32_t> fyk = FykIndice(d, IndiceMaterial(acero->ListIndex(), d.GenAcero));
-    if (indice == 0) {
-        m.fcd = kFcdReducido;
-        m.fyd = 0.75 * fyk.value_or(0) / kGammaS;
-    } else {
-        m.fcd = fck.value_or(0) / kGammaC;
-        m.fyd = fyk.value_or(0) / kGammaS;
-    }
+    const Resistencias r = ResistenciasDeCalculo(fck.value_or(0), fyk.value_or(0), indice == 0);
+    m.fcd = r.fcd;
+    m.fyd = r.fyd;
     return m;
 }
 
@@ -347,6 +323,12 @@ std::string PilHorm::ResumenCalculo() const
 
 std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
 {
+    // The section pictures belong to the concrete column, the one with bars.
+    const bool armado = Find("UCArmPilar", 0) && Find("UCArmPilar", 4) && Find("txtTramo", 4);
+    if (armado && (picture.Name() == "PctCuadr" || picture.Name() == "PctCir"))
+        return CroquisSeccion(picture.Name() == "PctCir");
+    if (armado && picture.Name() == "Pctllave" && (picture.Index() == 3 || picture.Index() == 4))
+        return CroquisLlave(picture.Index());
     if (picture.Name() != "Ptpilar" || picture.Index() < 0 || picture.Index() > 2)
         return std::nullopt;
     const auto pos = static_cast<PosicionPilar>(picture.Index());
@@ -360,8 +342,10 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
     // Room around the plan for the dimension lines and their names.
     constexpr int kMargen = 700;
     constexpr int kLado = 160;
+    // Room at the right for the names and values of the distances across.
+    constexpr int kRotulos = 1100;
     Croquis c;
-    c.ancho = a1 + a2 + 2 * kMargen;
+    c.ancho = a1 + a2 + 2 * kMargen + kRotulos;
     c.alto = a3 + a4 + 2 * kMargen;
     const PuntoCroquis o{kMargen + a1, kMargen + a3};
     // The tributary area: half of each span; a cantilever to the façade counts whole.
@@ -390,11 +374,104 @@ std::optional<Croquis> PilHorm::CroquisDe(const Control& picture) const
     if (!bordeY)
         pilar({o.x, o.y + a4});
     // The four distances under the names of their fields; the fields beside hold the values.
-    const int arriba = kMargen - 150, derecha = c.ancho - kMargen + 150;
-    c.Cota({o.x - a1, arriba}, {o.x, arriba}, "a1");
-    c.Cota({o.x, arriba}, {o.x + a2, arriba}, "a2");
-    c.Cota({derecha, o.y - a3}, {derecha, o.y}, "a3");
-    c.Cota({derecha, o.y}, {derecha, o.y + a4}, "a4");
+    const int arriba = kMargen - 150, derecha = c.ancho - kRotulos - kMargen + 150;
+    auto nombre = [&](int i) { return "a" + std::to_string(i + 1) + "=" + At("LePil", primera + i).Text(); };
+    c.Cota({o.x - a1, arriba}, {o.x, arriba}, nombre(0));
+    c.Cota({o.x, arriba}, {o.x + a2, arriba}, nombre(1));
+    c.Cota({derecha, o.y - a3}, {derecha, o.y}, nombre(2));
+    c.Cota({derecha, o.y}, {derecha, o.y + a4}, nombre(3));
+    return c;
+}
+
+// ---- The section ----
+
+namespace {
+
+// "2Ø25": the bars of a UCNumDiam.
+std::string TextoBarras(const Control& c) { return c.Get("NumBarras") + "\xC3\x98" + c.Get("Diametro"); }
+int Entero(const Control& c, const char* propiedad) { return static_cast<int>(ValComaCopy(c.Get(propiedad))); }
+
+}  // namespace
+
+Croquis PilHorm::CroquisSeccion(bool circular) const
+{
+    // Twips: the section fitted into a square of kLado, its sizes and bars named beside it.
+    constexpr int kAncho = 3200, kAlto = 2400, kLado = 1500, kRecubrimiento = 110, kBarra = 70;
+    Croquis c;
+    c.ancho = kAncho;
+    c.alto = kAlto;
+    const int cx = kAncho / 2, cy = (kAlto - 200) / 2;
+    auto barra = [&](double x, double y) {
+        const int px = static_cast<int>(x), py = static_cast<int>(y);
+        c.Rectangulo(PapelCroquis::Armadura, px - kBarra / 2, py - kBarra / 2, px + kBarra / 2, py + kBarra / 2);
+    };
+    if (circular) {
+        // A circle of 36 sides, the bars evenly round inside the cover.
+        const double radio = kLado / 2.0;
+        const Control& barras = At("UCArmPilar", 0);
+        TrazoCroquis circulo{FiguraCroquis::Poligono, PapelCroquis::Hormigon, {}};
+        for (int k = 0; k < 36; ++k)
+            circulo.puntos.push_back({cx + static_cast<int>(radio * std::cos(k * kPi / 18)),
+                                      cy + static_cast<int>(radio * std::sin(k * kPi / 18))});
+        c.trazos.push_back(circulo);
+        const int n = std::clamp(Entero(barras, "NumBarras"), 0, 24);
+        for (int k = 0; k < n; ++k)
+            barra(cx + (radio - kRecubrimiento) * std::cos(2 * kPi * k / n - kPi / 2),
+                  cy + (radio - kRecubrimiento) * std::sin(2 * kPi * k / n - kPi / 2));
+        c.Texto(PapelCroquis::Cota, {cx, cy + kLado / 2 + 170}, "D=" + At("txtTramo", 0).Text());
+        c.Texto(PapelCroquis::Armadura, {cx, cy}, TextoBarras(barras));
+        return c;
+    }
+    // The rectangle b x h (txtTramo(3) across, txtTramo(4) up), its longer side at kLado.
+    const double b = std::fabs(ValComaCopy(At("txtTramo", 3).Text())), h = std::fabs(ValComaCopy(At("txtTramo", 4).Text()));
+    if (!(b > 0 && h > 0))
+        return c;
+    const double escala = kLado / std::max(b, h);
+    const int w = std::max(300, static_cast<int>(b * escala)), alto = std::max(300, static_cast<int>(h * escala));
+    const int izq = cx - w / 2, der = izq + w, arr = cy - alto / 2, aba = arr + alto;
+    c.Rectangulo(PapelCroquis::Hormigon, izq, arr, der, aba);
+    const int r = kRecubrimiento;
+    c.trazos.push_back({FiguraCroquis::Linea, PapelCroquis::Armadura,
+                        {{izq + r, arr + r}, {der - r, arr + r}, {der - r, aba - r}, {izq + r, aba - r}, {izq + r, arr + r}}});
+    // Upper and lower faces: UCArmPilar(1) and (2) from corner to corner.
+    for (int cara = 1; cara <= 2; ++cara) {
+        const Control& barras = At("UCArmPilar", cara);
+        const int n = std::clamp(Entero(barras, "NumBarras"), 0, 12);
+        const int y = cara == 1 ? arr + r : aba - r;
+        for (int k = 0; k < n; ++k)
+            barra(n == 1 ? cx : izq + r + static_cast<double>(w - 2 * r) * k / (n - 1), y);
+        c.Texto(PapelCroquis::Armadura, {cx, cara == 1 ? arr - 110 : aba + 110}, TextoBarras(barras));
+    }
+    // Side bars per face between the corners: UCArmPilar(3) on the left face, (4) on the right,
+    // and the cross-tie through them where ChPil of that face is set (its Pctllave shows).
+    for (int cara = 3; cara <= 4; ++cara) {
+        const Control& barras = At("UCArmPilar", cara);
+        const int n = std::clamp(Entero(barras, "NumBarras"), 0, 12);
+        const int x = cara == 3 ? izq + r : der - r;
+        for (int k = 1; k <= n; ++k)
+            barra(x, arr + r + static_cast<double>(alto - 2 * r) * k / (n + 1));
+        if (const Control* llave = Find("Pctllave", cara); llave && llave->Visible() && n > 0) {
+            const int y = arr + r + (alto - 2 * r) / (n + 1);
+            c.Linea(PapelCroquis::Armadura, {izq + r, y}, {der - r, y});
+        }
+        c.Texto(PapelCroquis::Armadura, {cara == 3 ? izq - 330 : der + 330, cy}, TextoBarras(barras));
+    }
+    c.Texto(PapelCroquis::Cota, {cx, aba + 300}, "b=" + At("txtTramo", 3).Text());
+    c.Texto(PapelCroquis::Cota, {der + 450, aba + 200}, "h=" + At("txtTramo", 4).Text());
+    return c;
+}
+
+Croquis PilHorm::CroquisLlave(int cara) const
+{
+    // The cross-tie of a face: a bar across the section with a hook round a side bar at each end.
+    Croquis c;
+    c.ancho = 1600;
+    c.alto = 700;
+    c.trazos.push_back({FiguraCroquis::Linea, PapelCroquis::Armadura,
+                        {{380, 230}, {250, 330}, {300, 420}, {1300, 420}, {1350, 330}, {1220, 230}}});
+    c.Rectangulo(PapelCroquis::Armadura, 265, 355, 335, 425);
+    c.Rectangulo(PapelCroquis::Armadura, 1265, 355, 1335, 425);
+    c.Texto(PapelCroquis::Cota, {800, 590}, cara == 3 ? "izq." : "der.");
     return c;
 }
 

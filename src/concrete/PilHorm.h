@@ -79,7 +79,11 @@ public:
 
     std::string ResumenCalculo() const override;
 
-    // The plan of the column at its position (Ptpilar(i)).
+    // The plan of the column at its position (Ptpilar(i)), with the four distances; the section,
+    // rectangular (PctCuadr) or circular (PctCir), with its bars and sizes; the cross-tie of a
+    // face (Pctllave(3), Pctllave(4)).
+    // The bars: UCArmPilar(1) and (2) on the upper and lower face, (3) and (4) the side bars of
+    // the left and right face, (0) those of the circular section.
     std::optional<Croquis> CroquisDe(const Control& picture) const override;
 
 protected:
@@ -111,6 +115,8 @@ private:
     // general data where the form has no list of its own.
     void CoeficientesControl(double& gammaG, double& gammaQ);
     double Luz(int index) const;
+    Croquis CroquisSeccion(bool circular) const;
+    Croquis CroquisLlave(int cara) const;
 
     CargasPilar cargas_;
     // The materials of the last estimate, t/m2 (concrete forms only).

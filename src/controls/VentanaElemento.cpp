@@ -47,6 +47,14 @@ public:
     }
 
 protected:
+    // The layout gives the width; the height follows it, so that the drawing fills its room.
+    void resizeEvent(QResizeEvent* e) override
+    {
+        QWidget::resizeEvent(e);
+        const int alto = heightForWidth(width());
+        if (alto != minimumHeight())
+            setMinimumHeight(alto);
+    }
     void paintEvent(QPaintEvent*) override
     {
         const std::optional<Croquis> croquis = form_.CroquisDe(picture_);
@@ -73,8 +81,11 @@ protected:
                 poligono << punto(q);
             switch (t.figura) {
             case FiguraCroquis::Poligono:
-                p.setPen(t.papel == PapelCroquis::Hormigon || t.papel == PapelCroquis::Fabrica ? Pluma(t.papel)
-                                                                                               : QPen(Qt::NoPen));
+                // Concrete, masonry and loads are outlined; the ground, the rooms and the bars are not.
+                p.setPen(t.papel == PapelCroquis::Hormigon || t.papel == PapelCroquis::Fabrica ||
+                                 t.papel == PapelCroquis::Carga
+                             ? Pluma(t.papel)
+                             : QPen(Qt::NoPen));
                 p.setBrush(Relleno(t.papel, fondo));
                 p.drawPolygon(poligono);
                 if (t.papel == PapelCroquis::Terreno) {
@@ -96,7 +107,10 @@ protected:
                 break;
             case FiguraCroquis::Texto:
                 p.setPen(Pluma(t.papel));
-                p.drawText(QRectF(poligono[0].x() - 40, poligono[0].y() - 9, 80, 18), Qt::AlignCenter, Q(t.texto));
+            {
+                const double ancho = std::max(80.0, p.fontMetrics().horizontalAdvance(Q(t.texto)) + 4.0);
+                p.drawText(QRectF(poligono[0].x() - ancho / 2, poligono[0].y() - 9, ancho, 18), Qt::AlignCenter, Q(t.texto));
+            }
                 break;
             }
         }
@@ -111,6 +125,8 @@ private:
         case PapelCroquis::Fabrica: return QColor("#d9a48a");
         case PapelCroquis::Hueco: return fondo;
         case PapelCroquis::Resalte: return QColor(173, 205, 236, 170);
+        case PapelCroquis::Armadura: return QColor("#8b1e1e");
+        case PapelCroquis::Carga: return QColor("#f4d9d5");
         default: return Qt::NoBrush;
         }
     }
@@ -121,7 +137,7 @@ private:
         case PapelCroquis::Carga: return QPen(QColor("#b03a2e"), 1.2);
         case PapelCroquis::Hormigon: return QPen(QColor("#44546a"), 1);
         case PapelCroquis::Ausente: return QPen(QColor("#9aa3ad"), 1, Qt::DashLine);
-        case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 2);
+        case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 1.6);
         case PapelCroquis::Fabrica: return QPen(QColor("#7a3b22"), 1);
         default: return QPen(QColor("#1d3557"), 1);
         }
@@ -147,10 +163,11 @@ private:
             p.drawLine(q + QPointF(-3, 3), q + QPointF(3, -3));
         const QPointF medio = (a + b) / 2;
         const bool vertical = std::abs(b.y() - a.y()) > std::abs(b.x() - a.x());
-        // The text stands whole beside its line, however short the line is drawn.
-        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, 48, 18) : QRectF(medio.x() - 30, medio.y() - 17, 60, 16);
-        const int alineado = vertical ? int(Qt::AlignLeft | Qt::AlignVCenter) : int(Qt::AlignCenter);
-        p.drawText(caja, alineado | Qt::TextDontClip, texto);
+        // The box takes the text's width: a dimension may name its value as well as its letter.
+        const double ancho = std::max(18.0, p.fontMetrics().horizontalAdvance(texto) + 4.0);
+        const QRectF caja = vertical ? QRectF(medio.x() + 3, medio.y() - 9, ancho, 18)
+                                     : QRectF(medio.x() - ancho / 2, medio.y() - 17, ancho, 16);
+        p.drawText(caja, vertical ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter, texto);
     }
 
     const ElementForm& form_;
@@ -292,10 +309,11 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     auto* rejilla = new QGridLayout(grupo);
     rejilla->setHorizontalSpacing(6);
     rejilla->setVerticalSpacing(3);
-    // Long groups of small fields take two pairs a row.
+    // Long groups of small fields take two pairs a row; a sketch among them takes its own band.
     const bool dosPorFila = g.miembros.size() > 6 && std::all_of(g.miembros.begin(), g.miembros.end(), [](const Control* c) {
                                 return c->kind() == Kind::TextBox || c->kind() == Kind::ComboBox ||
-                                       c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton;
+                                       c->kind() == Kind::CheckBox || c->kind() == Kind::OptionButton ||
+                                       c->kind() == Kind::PictureBox;
                             });
     const int anchoFila = dosPorFila ? 6 : 3;
     const auto* elemento = dynamic_cast<const ElementForm*>(form_.get());

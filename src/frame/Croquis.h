@@ -24,7 +24,7 @@ enum class PapelCroquis {
     Carga,       // a load on the ground
     Ausente,     // a member a scheme shows where the structure has none: dashed, faint
     Resalte,     // a part of a plan set off from the rest: a drop panel, a chosen band of a slab
-    Armadura,    // a reinforcing bar
+    Armadura,    // a reinforcing bar or stirrup
     Fabrica,     // masonry: a wall's leaves and pilasters
 };
 

@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <memory>
@@ -261,6 +262,17 @@ TEST_F(Column, SwitchingPositionsKeepsEveryPositionsDistances)
     EXPECT_EQ(Esfuerzos(*f), Casos()[0].esperado);
 }
 
+// The design loads of the panel: the moments 0, the axial force 40 and the enclosure 800 kg/m,
+// each in the field of its meaning.
+TEST_F(Column, DesignLoadsStandInTheFieldsOfTheirMeaning)
+{
+    auto f = Load();
+    const std::pair<int, const char*> esperados[] = {{0, "0"}, {1, "0"}, {2, "40"}, {3, "800"}};
+    for (const auto& [i, texto] : esperados)
+        EXPECT_EQ(f->At("TxtQ", i).designText, texto) << i;
+    EXPECT_EQ(f->At("TxtQ", 2).Text(), "40");
+}
+
 TEST_F(Column, TypedLoadsAreRecalculatedAndNoEventRunsWhileLoading)
 {
     auto f = Load();
@@ -353,6 +365,53 @@ TEST_F(Column, ShapeAndCrossTiesFollowTheirFields)
     }
 }
 
+// The section as drawn: a bar square for each bar of each face, the side bars between the
+// corners, the tie through the first side bars of a face whose ChPil is set; the circle with its
+// bars round it.
+TEST_F(Column, SectionPicturesDrawTheBarsAndTheCrossTies)
+{
+    auto f = Load();
+    Pon(*f, "txtTramo", 3, "40");
+    Pon(*f, "txtTramo", 4, "20");
+    const std::pair<int, const char*> barras[] = {{0, "6"}, {1, "3"}, {2, "2"}, {3, "2"}, {4, "1"}};
+    for (const auto& [i, n] : barras) {
+        f->At("UCArmPilar", i).Set("NumBarras", n);
+        f->At("UCArmPilar", i).Set("Diametro", "16");
+    }
+    struct Cuenta {
+        int barras = 0, lineas = 0;
+        std::vector<std::string> textos;
+    };
+    auto cuenta = [&](const char* nombre, int index) {
+        Cuenta n;
+        const std::optional<Croquis> c = f->CroquisDe(f->At(nombre, index));
+        EXPECT_TRUE(c) << nombre;
+        if (!c)
+            return n;
+        for (const TrazoCroquis& t : c->trazos) {
+            if (t.papel != PapelCroquis::Armadura && t.figura != FiguraCroquis::Texto)
+                continue;
+            n.barras += t.figura == FiguraCroquis::Poligono;
+            n.lineas += t.figura == FiguraCroquis::Linea;
+            if (t.figura == FiguraCroquis::Texto)
+                n.textos.push_back(t.texto);
+        }
+        return n;
+    };
+    Cuenta r = cuenta("PctCuadr", -1);
+    EXPECT_EQ(r.barras, 3 + 2 + 2 + 1);
+    EXPECT_EQ(r.lineas, 1) << "the stirrup alone";
+    for (const char* texto : {"b=40", "h=20", "3\xC3\x98" "16", "1\xC3\x98" "16"})
+        EXPECT_NE(std::find(r.textos.begin(), r.textos.end(), texto), r.textos.end()) << texto;
+    Pon(*f, "ChPil", 3, "1");
+    EXPECT_EQ(cuenta("PctCuadr", -1).lineas, 2) << "the tie of the left face";
+    EXPECT_GT(cuenta("Pctllave", 3).lineas, 0);
+    Pon(*f, "CmbForma", -1, "1");
+    r = cuenta("PctCir", -1);
+    EXPECT_EQ(r.barras, 6);
+    EXPECT_NE(std::find(r.textos.begin(), r.textos.end(), "D=" + f->At("txtTramo", 0).Text()), r.textos.end());
+}
+
 TEST_F(Column, PlanSketchShowsThePositionAndItsDistances)
 {
     auto f = Load();
@@ -378,14 +437,19 @@ TEST_F(Column, PlanSketchShowsThePositionAndItsDistances)
                 EXPECT_TRUE(q.x >= 0 && q.x <= c->ancho && q.y >= 0 && q.y <= c->alto) << "inside the picture";
             }
         }
-        EXPECT_EQ(nombres, (std::vector<std::string>{"a1", "a2", "a3", "a4"}));
+        // Each distance under its name and the value of its field.
+        const int primera = PrimeraLuz(static_cast<PosicionPilar>(p));
+        std::vector<std::string> esperados;
+        for (int i = 0; i < 4; ++i)
+            esperados.push_back("a" + std::to_string(i + 1) + "=" + f->At("LePil", primera + i).Text());
+        EXPECT_EQ(nombres, esperados);
         EXPECT_EQ(medidas, largos[static_cast<size_t>(p)]) << p;
         // A corner has two façades and three columns, an edge one façade and four, an inner
         // column none and five.
         EXPECT_EQ(facadas, 2 - p) << p;
         EXPECT_EQ(pilares, 3 + p) << p;
     }
-    EXPECT_FALSE(f->CroquisDe(f->At("PctCuadr")));
+    EXPECT_FALSE(f->CroquisDe(f->At("Lbnota")));
 }
 
 }  // namespace

@@ -149,7 +149,7 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmVigHorm", "TxtRes1", -1, Kind::TextBox, "Flector"},
         {"frmPilHorm", "TxtRes3", -1, Kind::TextBox, "Cercos"},
         // A row of index -1 covers every member; a member's own row has the last word.
-        {"frmVigHorm", "UCArVig", 7, Kind::UCNumDiam, "Barras"},
+        {"frmVigHorm", "UCArVig", 7, Kind::UCNumDiam, "Inf. adic. 1"},
         {"frmVigHorm", "TxCota", 1, Kind::TextBox, "Luz total (m)"},
         {"frmVigHorm", "TxCota", 5, Kind::TextBox, "Luz forjado izquierdo (m)"},
         {"frmVigRegHorm", "TxCota", 6, Kind::TextBox, "Luz forjado derecho (m)"},
