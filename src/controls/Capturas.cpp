@@ -55,7 +55,7 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
     menu->close();
     const std::pair<const char*, const char*> ventanas[] = {
         {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
-        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}};
+        {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"APIL", "13-frmPilMet"}, {"AVIG", "14-frmVigMet"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)
@@ -87,6 +87,12 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
              if (b != std::string::npos)
                  t.SetSelStart(CharCount(t.Text().substr(0, b + 1)));
              t.Click();
+         }},
+        // The section classes of the IPE family in S 355.
+        {"frmClaseAcero",
+         [](Form& f) {
+             f.At("CmbAcero").SetListIndex(6);
+             f.At("CmbPerfil").SetListIndex(2);
          }},
     };
     int n = 8;

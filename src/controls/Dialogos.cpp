@@ -12,6 +12,7 @@
 #include "building/SistUnid.h"
 #include "controls/DialogosMapas.h"
 #include "controls/Ventanas.h"
+#include "steel_timber/ClaseAcero.h"
 #include "works/LngPack.h"
 #include "application/Mantenimiento.h"
 
@@ -32,6 +33,8 @@ std::function<bool()> Cerrado(Form& form)
     if (auto* f = dynamic_cast<FrmIdioma*>(&form))
         return [f] { return f->Descargado(); };
     if (auto* f = dynamic_cast<SistUnid*>(&form))
+        return [f] { return f->Descargado(); };
+    if (auto* f = dynamic_cast<FrmClaseAcero*>(&form))
         return [f] { return f->Descargado(); };
     return [] { return true; };
 }

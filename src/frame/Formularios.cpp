@@ -7,6 +7,7 @@
 #include "concrete/Hormigon.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
+#include "steel_timber/ClaseAcero.h"
 #include "works/Catalogo.h"
 #include "base/FileIo.h"
 #include "base/Form.h"
@@ -35,6 +36,8 @@ const std::vector<FormPropio>& FormsPropios()
         // The calculator of concrete properties by age: no record, opened over the main window.
         {"frmHormigon", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmHormigon>(d); },
          GruposHormigon()},
+        // The section class table of the steel forms: no record, opened by their cmdClase.
+        {"frmClaseAcero", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmClaseAcero>(d); }},
     };
     return propios;
 }

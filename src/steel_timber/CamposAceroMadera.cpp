@@ -4,8 +4,12 @@
 #include "concrete/PilHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "frame/GruposVentana.h"
 #include "frame/Listas.h"
 #include "frame/Tramos.h"
+#include "steel_timber/BotonesAyuda.h"
+#include "steel_timber/Dependientes.h"
+#include "steel_timber/PilMet.h"
 
 namespace vardena {
 namespace {
@@ -119,6 +123,56 @@ constexpr CampoDef kCamposFrmEscMade[] = {
 };
 static_assert(CamposBienFormados(kCamposFrmEscMade));
 
+// The steel beam's window: the beam and its spans, its loads, its section with the button of
+// the class table, and its materials and use.
+constexpr std::string_view kVigMetViga[] = {"CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)", "TxCota(0)",
+                                            "TxCota(4)", "TxtPil(0)", "TxtPil(1)", "ChVigIzq",  "ChVigDer",
+                                            "ChPilIzq",  "ChPilDer"};
+constexpr std::string_view kVigMetCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(4)"};
+constexpr std::string_view kVigMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
+constexpr std::string_view kVigMetDatos[] = {"cmbPart", "CmbCaso", "cmdCatUso"};
+constexpr GrupoDef kGruposVigMet[] = {
+    {"FrViga", 0, kVigMetViga, {}, 0},
+    {"FrDatosViga", 0, kVigMetDatos, {}, 1},
+    {"FrCargasViga", 0, kVigMetCargas, {}, 1},
+    {"FrPerfilViga", 0, kVigMetPerfil, {}, 2},
+};
+
+// The steel column's window: its level and loads, its position in plan with the plan and the
+// distances of that position, its section and the beams that reach it, and the effective
+// length: the end conditions and the coefficients worked out from them.
+constexpr std::string_view kPilMetNivel[] = {"txtTitulo", "CmbPlanta", "ChPilSup", "LePil(12)"};
+constexpr std::string_view kPilMetMateriales[] = {"CmbAcero", "CmbCaso"};
+constexpr std::string_view kPilMetEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kPilMetCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
+constexpr std::string_view kPilMetPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
+constexpr std::string_view kPilMetLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
+constexpr std::string_view kPilMetLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
+constexpr std::string_view kPilMetLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
+constexpr std::string_view kPilMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
+constexpr std::string_view kPilMetVigas[] = {"UCViga(0)", "UCViga(1)", "UCViga(2)", "UCViga(3)"};
+constexpr std::string_view kPilMetExtremos[] = {"ChkArriostradaX", "ChkArriostradaY", "ChRotS", "ChRotI",
+                                                "txtCurvaX", "txtCurvaY", "TxtBetaX", "TxtBetaY"};
+constexpr std::string_view kPilMetCoeficientes[] = {
+    "LbNomEta1X", "LbSimEta1X", "LbEta1X", "LbNomEta2X", "LbSimEta2X", "LbEta2X", "LbNomBetaX", "LbSimBetaX", "LbBetaX",
+    "LbNomEta1Y", "LbSimEta1Y", "LbEta1Y", "LbNomEta2Y", "LbSimEta2Y", "LbEta2Y", "LbNomBetaY", "LbSimBetaY", "LbBetaY"};
+constexpr std::string_view kPilMetResultados[] = {"TxtRes1", "TxtRes2"};
+constexpr GrupoDef kGruposPilMet[] = {
+    {"", kMsgGrupoElemento, kPilMetNivel, "", 0},
+    {"", 1501, kPilMetMateriales, "", 0},
+    {"UCframeEsf", 0, kPilMetEsfuerzos, "", 0},
+    {"LbCer", 0, kPilMetCerramiento, "", 0},
+    {"UCframePos", 0, kPilMetPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"UCframePerfil", 0, kPilMetPerfil, "", 2},
+    {"UCframeVigas", 0, kPilMetVigas, "", 2},
+    {"UCframePandeo", 0, kPilMetExtremos, "", 0},
+    {"UCframeBeta", 0, kPilMetCoeficientes, "", 1, true},
+    {"UCframeRes", 0, kPilMetResultados, "", 2},
+};
+
 }  // namespace
 
 std::span<const TablaForm> TablasAceroMadera()
@@ -130,15 +184,52 @@ std::span<const TablaForm> TablasAceroMadera()
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}),
-         MenuDef{"Acero", 1, "mnuVigMet", ""}, {}, &CreaDe<FormaViga>},
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrDatosViga", -1, "Datos iniciales"},
+             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrPerfilViga", -1, "Perfil"},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+             {kBt, "cmdClase", -1, "Clase"},
+             {kBt, "cmdCatUso", -1, "Cat. uso"},
+         }),
+         MenuDef{"Acero", 1, "mnuVigMet", ""}, kGruposVigMet, &CreaDe<ConBotonesAyuda<FormaViga>>},
         {"frmPilMet", kCamposFrmPilMet,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}),
-         MenuDef{"Acero", 2, "mnuPilMet", ""}, {}, &CreaDe<PilHorm>},
+         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}, {
+             {kFr, "UCframePos", -1, "Situación pilar en planta"},
+             {kPc, "Ptpilar", 0, ""},
+             {kPc, "Ptpilar", 1, ""},
+             {kPc, "Ptpilar", 2, ""},
+             {kFr, "UCframeLucesEsq", -1, "Luces en metros"},
+             {kFr, "UCframeLucesBor", -1, "Luces en metros"},
+             {kFr, "UCframeLucesCen", -1, "Luces en metros"},
+             {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
+             {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
+             {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
+             {kFr, "UCframeEsf", -1, "Esfuerzos mayorados"},
+             {kLb, "LbCer", -1, "Cerramiento (sin mayorar)"},
+             {kLb, "LbP1", 0, "P="},
+             {kLb, "LbP1", 2, ""},
+             {kFr, "UCframePerfil", -1, "Perfil del pilar"},
+             {kFr, "UCframeVigas", -1, "Vigas que llegan al pilar"},
+             {kPf, "UCViga", 0, "Viga a1"}, {kPf, "UCViga", 1, "Viga a2"},
+             {kPf, "UCViga", 2, "Viga a3"}, {kPf, "UCViga", 3, "Viga a4"},
+             {kFr, "UCframePandeo", -1, "Pandeo: condiciones de los extremos"},
+             {kFr, "UCframeBeta", -1, "Longitud de pandeo calculada"},
+             {kLb, "LbNomEta1X", -1, "Coeficiente en cabeza, eje X"}, {kLb, "LbSimEta1X", -1, "η1"}, {kLb, "LbEta1X", -1, ""},
+             {kLb, "LbNomEta2X", -1, "Coeficiente en pie, eje X"}, {kLb, "LbSimEta2X", -1, "η2"}, {kLb, "LbEta2X", -1, ""},
+             {kLb, "LbNomBetaX", -1, "Coeficiente de pandeo, eje X"}, {kLb, "LbSimBetaX", -1, "β"}, {kLb, "LbBetaX", -1, ""},
+             {kLb, "LbNomEta1Y", -1, "Coeficiente en cabeza, eje Y"}, {kLb, "LbSimEta1Y", -1, "η1"}, {kLb, "LbEta1Y", -1, ""},
+             {kLb, "LbNomEta2Y", -1, "Coeficiente en pie, eje Y"}, {kLb, "LbSimEta2Y", -1, "η2"}, {kLb, "LbEta2Y", -1, ""},
+             {kLb, "LbNomBetaY", -1, "Coeficiente de pandeo, eje Y"}, {kLb, "LbSimBetaY", -1, "β"}, {kLb, "LbBetaY", -1, ""},
+             {kFr, "UCframeRes", -1, "Coeficientes seguridad:"},
+             {kBt, "cmdClase", -1, "Clase"},
+         }),
+         MenuDef{"Acero", 2, "mnuPilMet", ""}, kGruposPilMet, &CreaDe<PilMet>},
         {"frmBasMet", kCamposFrmBasMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Bases metálicas", "Base pilar 01", kNada, kNada,
@@ -163,7 +254,7 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "TxtRes1", 1, "Chapa"},
              {kTx, "TxtRes1", 2, "Cartelas"},
          }),
-         MenuDef{"Acero", 3, "mnuBasMet", ""}},
+         MenuDef{"Acero", 3, "mnuBasMet", ""}, {}, &CreaDe<FormaDependientes>},
         {"frmForjAcer", kCamposFrmForjAcer,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
@@ -171,8 +262,10 @@ std::span<const TablaForm> TablasAceroMadera()
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros, true,
          Visibles({EtiquetasForjadoLigero, EtiquetasContinuidad, EtiquetasResultadosAcero}, {
              {kCk, "ChInclinado", -1, "Correas"},
+             {kBt, "cmdClase", -1, "Clase"},
+             {kBt, "cmdCatUso", -1, "Cat. uso"},
          }),
-         MenuDef{"Acero", 4, "mnuForjAcer", ""}},
+         MenuDef{"Acero", 4, "mnuForjAcer", ""}, {}, &CreaDe<ConBotonesAyuda<ElementForm>>},
         {"frmEscMet", kCamposFrmEscMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
@@ -184,7 +277,7 @@ std::span<const TablaForm> TablasAceroMadera()
              {kOp, "OptLosa", 2, "De 2 tramos"},
              {kOp, "OptLosa", 3, "Rampa"},
          }),
-         MenuDef{"Acero", 5, "mnuEscMet", ""}},
+         MenuDef{"Acero", 5, "mnuEscMet", ""}, {}, &CreaDe<FormaDependientes>},
         {"frmVigMade", kCamposFrmVigMade,
          // Reasoned titles for the timber forms, after the concrete and steel ones.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -196,8 +289,9 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "TextDviga", -1, "Sección"},
              {kTx, "TextDviga", 0, "Ancho b (cm)"},
              {kTx, "TextDviga", 1, "Canto h (cm)"},
+             {kBt, "CmdAyuda", -1, "Clases:"},
          }),
-         MenuDef{"Madera", 1, "mnuVigMade", ""}, {}, &CreaDe<FormaViga>},
+         MenuDef{"Madera", 1, "mnuVigMade", ""}, {}, &CreaDe<ConBotonesAyuda<FormaViga>>},
         {"frmPilMade", kCamposFrmPilMade,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
@@ -206,8 +300,9 @@ std::span<const TablaForm> TablasAceroMadera()
          Visibles({EtiquetasPilar, EtiquetasPandeo}, {
              {kTx, "txtTramo", -1, "Dimensión (cm)"},
              {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
+             {kBt, "CmdAyuda", -1, "Clases:"},
          }),
-         MenuDef{"Madera", 2, "mnuPilMade", ""}, {}, &CreaDe<PilHorm>},
+         MenuDef{"Madera", 2, "mnuPilMade", ""}, {}, &CreaDe<ConBotonesAyuda<PilHorm>>},
         {"frmForMade", kCamposFrmForMade,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
@@ -220,14 +315,15 @@ std::span<const TablaForm> TablasAceroMadera()
              {kCk, "ChInclinado", -1, "Forjado inclinado"},
              {kTx, "TextDviga", 0, "Ancho vigueta b (cm)"},
              {kTx, "TextDviga", 1, "Canto vigueta h (cm)"},
+             {kBt, "CmdAyuda", -1, "Clases:"},
          }),
-         MenuDef{"Madera", 3, "mnuForMade", ""}},
+         MenuDef{"Madera", 3, "mnuForMade", ""}, {}, &CreaDe<ConBotonesAyuda<ElementForm>>},
         {"frmEscMade", kCamposFrmEscMade,
          {true, true, PasoComprobacion::Bandera, true},
          "Escalera de Madera", "Escalera Madera 01", kNada, kNada,
          ListasMadera(),
-         {}, Despacho::Ninguno, true, {},
-         MenuDef{"Madera", 4, "mnuEscMade", ""}},
+         {}, Despacho::Ninguno, true, Visibles({}, {{kBt, "CmdAyuda", -1, "Clases:"}}),
+         MenuDef{"Madera", 4, "mnuEscMade", ""}, {}, &CreaDe<ConBotonesAyuda<ElementForm>>},
     };
     static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;

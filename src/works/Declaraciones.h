@@ -139,6 +139,8 @@ struct Declaraciones {
     float ModuloHormigon = 0;
     // The modulus of the beams' concrete, t/m2, worked out again when a beam's concrete is chosen.
     float ModuloVigas = 0;
+    // The effective length factors of the last steel column worked out, about its X and Y axes.
+    double BetaPandeoX = 0, BetaPandeoY = 0;
 
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();
