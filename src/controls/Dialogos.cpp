@@ -10,6 +10,7 @@
 
 #include "building/Mapas.h"
 #include "building/SistUnid.h"
+#include "controls/DialogoClaseAcero.h"
 #include "controls/DialogosMapas.h"
 #include "controls/Ventanas.h"
 #include "steel_timber/ClaseAcero.h"
@@ -33,8 +34,6 @@ std::function<bool()> Cerrado(Form& form)
     if (auto* f = dynamic_cast<FrmIdioma*>(&form))
         return [f] { return f->Descargado(); };
     if (auto* f = dynamic_cast<SistUnid*>(&form))
-        return [f] { return f->Descargado(); };
-    if (auto* f = dynamic_cast<FrmClaseAcero*>(&form))
         return [f] { return f->Descargado(); };
     return [] { return true; };
 }
@@ -156,6 +155,8 @@ std::unique_ptr<QDialog> CreaDialogo(Form& form, QWidget* parent)
         return std::make_unique<DialogoSistUnid>(*s, parent);
     if (auto* m = dynamic_cast<DialogoAcciones*>(&form))
         return std::make_unique<DialogoMapas>(*m, parent);
+    if (auto* c = dynamic_cast<FrmClaseAcero*>(&form))
+        return std::make_unique<DialogoClaseAcero>(*c, parent);
     return std::make_unique<VentanaDialogo>(form, Cerrado(form), parent);
 }
 

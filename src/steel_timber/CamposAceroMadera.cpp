@@ -130,12 +130,15 @@ constexpr std::string_view kVigMetViga[] = {"CmTramos",  "TxCota(1)", "TxCota(2)
                                             "ChPilIzq",  "ChPilDer"};
 constexpr std::string_view kVigMetCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(4)"};
 constexpr std::string_view kVigMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
-constexpr std::string_view kVigMetDatos[] = {"cmbPart", "CmbCaso", "cmdCatUso"};
+constexpr std::string_view kVigMetDatos[] = {"CmbAcero", "CmbCaso", "cmbPart", "cmdCatUso"};
+constexpr std::string_view kVigMetResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3", "TxtRes4"};
 constexpr GrupoDef kGruposVigMet[] = {
-    {"FrViga", 0, kVigMetViga, {}, 0},
-    {"FrDatosViga", 0, kVigMetDatos, {}, 1},
+    {"", kMsgGrupoElemento, kCamposIdentidad, {}, 0},
+    {"FrDatosViga", 0, kVigMetDatos, {}, 0},
+    {"FrPerfilViga", 0, kVigMetPerfil, {}, 0},
+    {"FrViga", 0, kVigMetViga, {}, 1},
     {"FrCargasViga", 0, kVigMetCargas, {}, 1},
-    {"FrPerfilViga", 0, kVigMetPerfil, {}, 2},
+    {"UCframe2", 0, kVigMetResultados, {}, 1},
 };
 
 // The steel column's window: its level and loads, its position in plan with the plan and the
@@ -151,8 +154,8 @@ constexpr std::string_view kPilMetLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil
 constexpr std::string_view kPilMetLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
 constexpr std::string_view kPilMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
 constexpr std::string_view kPilMetVigas[] = {"UCViga(0)", "UCViga(1)", "UCViga(2)", "UCViga(3)"};
-constexpr std::string_view kPilMetExtremos[] = {"ChkArriostradaX", "ChkArriostradaY", "ChRotS", "ChRotI",
-                                                "txtCurvaX", "txtCurvaY", "TxtBetaX", "TxtBetaY"};
+constexpr std::string_view kPilMetExtremos[] = {"ChkArriostradaX", "ChkArriostradaY", "ChRotS", "ChRotI"};
+constexpr std::string_view kPilMetCurvas[] = {"txtCurvaX", "txtCurvaY", "TxtBetaX", "TxtBetaY"};
 constexpr std::string_view kPilMetCoeficientes[] = {
     "LbNomEta1X", "LbSimEta1X", "LbEta1X", "LbNomEta2X", "LbSimEta2X", "LbEta2X", "LbNomBetaX", "LbSimBetaX", "LbBetaX",
     "LbNomEta1Y", "LbSimEta1Y", "LbEta1Y", "LbNomEta2Y", "LbSimEta2Y", "LbEta2Y", "LbNomBetaY", "LbSimBetaY", "LbBetaY"};
@@ -166,10 +169,11 @@ constexpr GrupoDef kGruposPilMet[] = {
     {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
     {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
     {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"UCframePandeo", 0, kPilMetExtremos, "", 0},
+    {"UCframeCurvas", 0, kPilMetCurvas, "", 0},
+    {"UCframeBeta", 0, kPilMetCoeficientes, "", 1, true},
     {"UCframePerfil", 0, kPilMetPerfil, "", 2},
     {"UCframeVigas", 0, kPilMetVigas, "", 2},
-    {"UCframePandeo", 0, kPilMetExtremos, "", 0},
-    {"UCframeBeta", 0, kPilMetCoeficientes, "", 1, true},
     {"UCframeRes", 0, kPilMetResultados, "", 2},
 };
 
@@ -184,7 +188,7 @@ std::span<const TablaForm> TablasAceroMadera()
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}, {
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasResultadosAcero}, {
              {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
              {kFr, "FrDatosViga", -1, "Datos iniciales"},
              {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
@@ -218,14 +222,15 @@ std::span<const TablaForm> TablasAceroMadera()
              {kFr, "UCframeVigas", -1, "Vigas que llegan al pilar"},
              {kPf, "UCViga", 0, "Viga a1"}, {kPf, "UCViga", 1, "Viga a2"},
              {kPf, "UCViga", 2, "Viga a3"}, {kPf, "UCViga", 3, "Viga a4"},
-             {kFr, "UCframePandeo", -1, "Pandeo: condiciones de los extremos"},
+             {kFr, "UCframePandeo", -1, "Pandeo: extremos del pilar"},
+             {kFr, "UCframeCurvas", -1, "Curvas de pandeo"},
              {kFr, "UCframeBeta", -1, "Longitud de pandeo calculada"},
-             {kLb, "LbNomEta1X", -1, "Coeficiente en cabeza, eje X"}, {kLb, "LbSimEta1X", -1, "η1"}, {kLb, "LbEta1X", -1, ""},
-             {kLb, "LbNomEta2X", -1, "Coeficiente en pie, eje X"}, {kLb, "LbSimEta2X", -1, "η2"}, {kLb, "LbEta2X", -1, ""},
-             {kLb, "LbNomBetaX", -1, "Coeficiente de pandeo, eje X"}, {kLb, "LbSimBetaX", -1, "β"}, {kLb, "LbBetaX", -1, ""},
-             {kLb, "LbNomEta1Y", -1, "Coeficiente en cabeza, eje Y"}, {kLb, "LbSimEta1Y", -1, "η1"}, {kLb, "LbEta1Y", -1, ""},
-             {kLb, "LbNomEta2Y", -1, "Coeficiente en pie, eje Y"}, {kLb, "LbSimEta2Y", -1, "η2"}, {kLb, "LbEta2Y", -1, ""},
-             {kLb, "LbNomBetaY", -1, "Coeficiente de pandeo, eje Y"}, {kLb, "LbSimBetaY", -1, "β"}, {kLb, "LbBetaY", -1, ""},
+             {kLb, "LbNomEta1X", -1, "Cabeza, eje X"}, {kLb, "LbSimEta1X", -1, "η1"}, {kLb, "LbEta1X", -1, ""},
+             {kLb, "LbNomEta2X", -1, "Pie, eje X"}, {kLb, "LbSimEta2X", -1, "η2"}, {kLb, "LbEta2X", -1, ""},
+             {kLb, "LbNomBetaX", -1, "Pandeo, eje X"}, {kLb, "LbSimBetaX", -1, "β"}, {kLb, "LbBetaX", -1, ""},
+             {kLb, "LbNomEta1Y", -1, "Cabeza, eje Y"}, {kLb, "LbSimEta1Y", -1, "η1"}, {kLb, "LbEta1Y", -1, ""},
+             {kLb, "LbNomEta2Y", -1, "Pie, eje Y"}, {kLb, "LbSimEta2Y", -1, "η2"}, {kLb, "LbEta2Y", -1, ""},
+             {kLb, "LbNomBetaY", -1, "Pandeo, eje Y"}, {kLb, "LbSimBetaY", -1, "β"}, {kLb, "LbBetaY", -1, ""},
              {kFr, "UCframeRes", -1, "Coeficientes seguridad:"},
              {kBt, "cmdClase", -1, "Clase"},
          }),
