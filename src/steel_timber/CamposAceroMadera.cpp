@@ -9,6 +9,7 @@
 #include "frame/Tramos.h"
 #include "steel_timber/BotonesAyuda.h"
 #include "steel_timber/Dependientes.h"
+#include "steel_timber/ForjAcer.h"
 #include "steel_timber/PilMet.h"
 
 namespace vardena {
@@ -270,7 +271,7 @@ std::span<const TablaForm> TablasAceroMadera()
              {kBt, "cmdClase", -1, "Clase"},
              {kBt, "cmdCatUso", -1, "Cat. uso"},
          }),
-         MenuDef{"Acero", 4, "mnuForjAcer", ""}, {}, &CreaDe<ConBotonesAyuda<ElementForm>>},
+         MenuDef{"Acero", 4, "mnuForjAcer", ""}, {}, &CreaDe<ForjAcer>},
         {"frmEscMet", kCamposFrmEscMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
