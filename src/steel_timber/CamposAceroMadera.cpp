@@ -1,6 +1,8 @@
 // Stored fields of the steel and timber element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include <vector>
+
 #include "concrete/PilHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
@@ -178,6 +180,94 @@ constexpr GrupoDef kGruposPilMet[] = {
     {"UCframeRes", 0, kPilMetResultados, "", 2},
 };
 
+// The column's plan and the distances of each position, as the concrete column shows them:
+// the steel and the timber column share these frames.
+const std::vector<ControlVisible>& EtiquetasPlantaPilar()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "UCframePos", -1, "Situación pilar en planta"},
+        {kPc, "Ptpilar", 0, ""},
+        {kPc, "Ptpilar", 1, ""},
+        {kPc, "Ptpilar", 2, ""},
+        {kFr, "UCframeLucesEsq", -1, "Luces en metros"},
+        {kFr, "UCframeLucesBor", -1, "Luces en metros"},
+        {kFr, "UCframeLucesCen", -1, "Luces en metros"},
+        {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
+        {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
+        {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
+        {kFr, "UCframeEsf", -1, "Esfuerzos mayorados"},
+        {kLb, "LbCer", -1, "Cerramiento (sin mayorar)"},
+        {kLb, "LbP1", 0, "P="},
+        {kLb, "LbP1", 2, ""},
+        {kFr, "UCframePandeo", -1, "Pandeo: extremos del pilar"},
+        {kFr, "UCframeCurvas", -1, "Curvas de pandeo"},
+        {kFr, "UCframeRes", -1, "Coeficientes seguridad:"},
+    };
+    return filas;
+}
+
+// The timber column's window: as the steel column's, with its timber section and its fire
+// resistance in the place of the steel section and the beams.
+constexpr std::string_view kPilMadeMateriales[] = {"CmbResis", "CmbServi", "CmbUso", "CmdAyuda"};
+constexpr std::string_view kPilMadeSeccion[] = {"CmbForma", "txtTramo", "TxtPorcent", "cmbesviada"};
+constexpr std::string_view kPilMadeFuego[] = {"txtEF"};
+constexpr std::string_view kPilMadeCurvas[] = {"TxtBetaX", "TxtBetaY"};
+constexpr std::string_view kPilMadeResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3"};
+constexpr GrupoDef kGruposPilMade[] = {
+    {"", kMsgGrupoElemento, kPilMetNivel, "", 0},
+    {"", 1501, kPilMadeMateriales, "", 0},
+    {"UCframeEsf", 0, kPilMetEsfuerzos, "", 0},
+    {"LbCer", 0, kPilMetCerramiento, "", 0},
+    {"UCframePandeo", 0, kPilMetExtremos, "", 0},
+    {"UCframePos", 0, kPilMetPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"UCframeSeccion", 0, kPilMadeSeccion, "", 2},
+    {"FrmFuego", 0, kPilMadeFuego, "", 2},
+    {"UCframeCurvas", 0, kPilMadeCurvas, "", 2},
+    {"UCframeRes", 0, kPilMadeResultados, "", 2},
+};
+
+// The timber beam's window: as the steel beam's, with its timber section, its shared-load
+// factor and its fire resistance, each in its frame.
+constexpr std::string_view kVigMadeMateriales[] = {"CmbResis", "CmbServi", "CmdAyuda"};
+constexpr std::string_view kVigMadeDatos[] = {"cmbPart", "CmbUso"};
+constexpr std::string_view kVigMadeCargaComp[] = {"CmbCargaComp"};
+constexpr std::string_view kVigMadeSeccion[] = {"TextDviga(0)", "TextDviga(1)"};
+constexpr std::string_view kVigMadeFuego[] = {"txtEF", "txtResF1", "txtResF2"};
+constexpr GrupoDef kGruposVigMade[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, {}, 0},
+    {"", 1501, kVigMadeMateriales, {}, 0},
+    {"FrDatosViga", 0, kVigMadeDatos, {}, 0},
+    {"FrCargaComp", 0, kVigMadeCargaComp, {}, 0},
+    {"FrSeccionViga", 0, kVigMadeSeccion, {}, 0},
+    {"FrViga", 0, kVigMetViga, {}, 1},
+    {"FrCargasViga", 0, kVigMetCargas, {}, 1},
+    {"FrmFuego", 0, kVigMadeFuego, {}, 1},
+    {"UCframe2", 0, kVigMetResultados, {}, 1},
+};
+
+// The steel stair's window: its kind, then the lengths and ends of each kind in a frame of its
+// own that shows while that kind is chosen, the section and the results.
+constexpr std::string_view kEscMetTipo[] = {"OptLosa(0)", "OptLosa(1)", "OptLosa(2)", "OptLosa(3)"};
+constexpr std::string_view kEscMetDatos[] = {"CmbAcero", "txtSolado", "txtSobrUso", "txtAncho"};
+constexpr std::string_view kEscMetUnTramo[] = {"TxCotaH1", "OptH1izq", "OptH1der"};
+constexpr std::string_view kEscMetDescanso[] = {"TxCotaDesc", "OptDApoIzq", "OptDApoDer"};
+constexpr std::string_view kEscMetDosTramos[] = {"TxCotaH2", "OptH2izqS", "OptH2izqI", "OptH2der"};
+constexpr std::string_view kEscMetRampa[] = {"TxCotaRampa", "OptRampaApoIzq", "OptRampaApoDer"};
+constexpr std::string_view kEscMetPerfil[] = {"UCPerfil1"};
+constexpr GrupoDef kGruposEscMet[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, "", 0},
+    {"FrTipoEscalera", 0, kEscMetTipo, "", 0},
+    {"FrDatosEscalera", 0, kEscMetDatos, "", 0},
+    {"FrUnTramo", 0, kEscMetUnTramo, "", 1},
+    {"FrDescanso", 0, kEscMetDescanso, "", 1},
+    {"FrDosTramos", 0, kEscMetDosTramos, "", 1},
+    {"FrRampa", 0, kEscMetRampa, "", 1},
+    {"FrPerfilEscalera", 0, kEscMetPerfil, "", 2},
+};
+
 }  // namespace
 
 std::span<const TablaForm> TablasAceroMadera()
@@ -204,27 +294,11 @@ std::span<const TablaForm> TablasAceroMadera()
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}, {
-             {kFr, "UCframePos", -1, "Situación pilar en planta"},
-             {kPc, "Ptpilar", 0, ""},
-             {kPc, "Ptpilar", 1, ""},
-             {kPc, "Ptpilar", 2, ""},
-             {kFr, "UCframeLucesEsq", -1, "Luces en metros"},
-             {kFr, "UCframeLucesBor", -1, "Luces en metros"},
-             {kFr, "UCframeLucesCen", -1, "Luces en metros"},
-             {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
-             {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
-             {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
-             {kFr, "UCframeEsf", -1, "Esfuerzos mayorados"},
-             {kLb, "LbCer", -1, "Cerramiento (sin mayorar)"},
-             {kLb, "LbP1", 0, "P="},
-             {kLb, "LbP1", 2, ""},
+         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo, EtiquetasPlantaPilar}, {
              {kFr, "UCframePerfil", -1, "Perfil del pilar"},
              {kFr, "UCframeVigas", -1, "Vigas que llegan al pilar"},
              {kPf, "UCViga", 0, "Viga a1"}, {kPf, "UCViga", 1, "Viga a2"},
              {kPf, "UCViga", 2, "Viga a3"}, {kPf, "UCViga", 3, "Viga a4"},
-             {kFr, "UCframePandeo", -1, "Pandeo: extremos del pilar"},
-             {kFr, "UCframeCurvas", -1, "Curvas de pandeo"},
              {kFr, "UCframeBeta", -1, "Longitud de pandeo calculada"},
              {kLb, "LbNomEta1X", -1, "Cabeza, eje X"}, {kLb, "LbSimEta1X", -1, "η1"}, {kLb, "LbEta1X", -1, ""},
              {kLb, "LbNomEta2X", -1, "Pie, eje X"}, {kLb, "LbSimEta2X", -1, "η2"}, {kLb, "LbEta2X", -1, ""},
@@ -232,7 +306,6 @@ std::span<const TablaForm> TablasAceroMadera()
              {kLb, "LbNomEta1Y", -1, "Cabeza, eje Y"}, {kLb, "LbSimEta1Y", -1, "η1"}, {kLb, "LbEta1Y", -1, ""},
              {kLb, "LbNomEta2Y", -1, "Pie, eje Y"}, {kLb, "LbSimEta2Y", -1, "η2"}, {kLb, "LbEta2Y", -1, ""},
              {kLb, "LbNomBetaY", -1, "Pandeo, eje Y"}, {kLb, "LbSimBetaY", -1, "β"}, {kLb, "LbBetaY", -1, ""},
-             {kFr, "UCframeRes", -1, "Coeficientes seguridad:"},
              {kBt, "cmdClase", -1, "Clase"},
          }),
          MenuDef{"Acero", 2, "mnuPilMet", ""}, kGruposPilMet, &CreaDe<PilMet>},
@@ -277,13 +350,37 @@ std::span<const TablaForm> TablasAceroMadera()
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
          ListasAcero(),
          {}, Despacho::Ninguno, true,
-         Visibles({EtiquetasEscalera, EtiquetasResultadosAcero}, {
+         // Each kind's lengths and ends stand in the frame of that kind, which names it.
+         Visibles({EtiquetasResultadosAcero}, {
+             {kTx, "txtAncho", -1, "Ancho (m)"},
+             {kTx, "txtSobrUso", -1, "Sobrecarga de uso"},
+             {kTx, "txtSolado", -1, "Solado"},
+             {kTx, "TxCotaH1", -1, "Longitud (m) #"},
+             {kTx, "TxCotaDesc", -1, "Longitud (m) #"},
+             {kTx, "TxCotaH2", -1, "Longitud (m) #"},
+             {kTx, "TxCotaRampa", -1, "Longitud (m) #"},
+             {kOp, "OptH1izq", -1, "Izquierdo #"},
+             {kOp, "OptH1der", -1, "Derecho #"},
+             {kOp, "OptDApoIzq", -1, "Izquierdo #"},
+             {kOp, "OptDApoDer", -1, "Derecho #"},
+             {kOp, "OptH2izqS", -1, "Izquierdo superior #"},
+             {kOp, "OptH2izqI", -1, "Izquierdo inferior #"},
+             {kOp, "OptH2der", -1, "Derecho #"},
+             {kOp, "OptRampaApoIzq", -1, "Izquierdo #"},
+             {kOp, "OptRampaApoDer", -1, "Derecho #"},
              {kOp, "OptLosa", 0, "De 1 tramo"},
              {kOp, "OptLosa", 1, "De 1 tramo con descanso"},
              {kOp, "OptLosa", 2, "De 2 tramos"},
              {kOp, "OptLosa", 3, "Rampa"},
+             {kFr, "FrTipoEscalera", -1, "Tipo de escalera"},
+             {kFr, "FrDatosEscalera", -1, "Datos"},
+             {kFr, "FrUnTramo", -1, "De 1 tramo"},
+             {kFr, "FrDescanso", -1, "De 1 tramo con descanso"},
+             {kFr, "FrDosTramos", -1, "De 2 tramos"},
+             {kFr, "FrRampa", -1, "Rampa"},
+             {kFr, "FrPerfilEscalera", -1, "Perfil principal"},
          }),
-         MenuDef{"Acero", 5, "mnuEscMet", ""}, {}, &CreaDe<FormaDependientes>},
+         MenuDef{"Acero", 5, "mnuEscMet", ""}, kGruposEscMet, &CreaDe<FormaDependientes>},
         {"frmVigMade", kCamposFrmVigMade,
          // Reasoned titles for the timber forms, after the concrete and steel ones.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -296,19 +393,28 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "TextDviga", 0, "Ancho b (cm)"},
              {kTx, "TextDviga", 1, "Canto h (cm)"},
              {kBt, "CmdAyuda", -1, "Clases:"},
+             {kFr, "FrDatosViga", -1, "Datos iniciales"},
+             {kFr, "FrCargaComp", -1, "Factor de carga compartida"},
+             {kFr, "FrSeccionViga", -1, "Sección"},
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrmFuego", -1, "Resistencia al fuego"},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
          }),
-         MenuDef{"Madera", 1, "mnuVigMade", ""}, {}, &CreaDe<ConBotonesAyuda<FormaViga>>},
+         MenuDef{"Madera", 1, "mnuVigMade", ""}, kGruposVigMade, &CreaDe<ConBotonesAyuda<FormaViga>>},
         {"frmPilMade", kCamposFrmPilMade,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
          Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPandeo}, {
+         Visibles({EtiquetasPilar, EtiquetasPandeo, EtiquetasPlantaPilar}, {
              {kTx, "txtTramo", -1, "Dimensión (cm)"},
              {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
              {kBt, "CmdAyuda", -1, "Clases:"},
+             {kFr, "UCframeSeccion", -1, "Sección (cm)"},
+             {kFr, "FrmFuego", -1, "Resistencia al fuego"},
          }),
-         MenuDef{"Madera", 2, "mnuPilMade", ""}, {}, &CreaDe<ConBotonesAyuda<PilHorm>>},
+         MenuDef{"Madera", 2, "mnuPilMade", ""}, kGruposPilMade, &CreaDe<ConBotonesAyuda<PilHorm>>},
         {"frmForMade", kCamposFrmForMade,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,

@@ -9,10 +9,10 @@ constexpr std::string_view kCartelasY[] = {"TxEspCartY", "TxCotaCartY"};
 constexpr Dependencia kBasMet[] = {{"ChX", -1, kCartelasX}, {"ChY", -1, kCartelasY}};
 
 // The stair: each kind its lengths and the conditions of its ends.
-constexpr std::string_view kUnTramo[] = {"TxCotaH1", "OptH1izq", "OptH1der"};
-constexpr std::string_view kDescanso[] = {"TxCotaDesc", "OptDApoIzq", "OptDApoDer"};
-constexpr std::string_view kDosTramos[] = {"TxCotaH2", "OptH2izqS", "OptH2izqI", "OptH2der"};
-constexpr std::string_view kRampa[] = {"TxCotaRampa", "OptRampaApoIzq", "OptRampaApoDer"};
+constexpr std::string_view kUnTramo[] = {"FrUnTramo", "TxCotaH1", "OptH1izq", "OptH1der"};
+constexpr std::string_view kDescanso[] = {"FrDescanso", "TxCotaDesc", "OptDApoIzq", "OptDApoDer"};
+constexpr std::string_view kDosTramos[] = {"FrDosTramos", "TxCotaH2", "OptH2izqS", "OptH2izqI", "OptH2der"};
+constexpr std::string_view kRampa[] = {"FrRampa", "TxCotaRampa", "OptRampaApoIzq", "OptRampaApoDer"};
 constexpr Dependencia kEscMet[] = {
     {"OptLosa", 0, kUnTramo}, {"OptLosa", 1, kDescanso}, {"OptLosa", 2, kDosTramos}, {"OptLosa", 3, kRampa}};
 

@@ -168,7 +168,7 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmMuroH", "UCArmMuro", 15, Kind::UCZapatas, "Armadura del muro"},
         {"frmPilHorm", "OpPosPil", 0, Kind::OptionButton, "esquina"},
         {"frmPilMet", "LePil", 12, Kind::TextBox, "Altura de planta (m)"},
-        {"frmPilMade", "LePil", 3, Kind::TextBox, "Luces (m)"},
+        {"frmPilMade", "LePil", 3, Kind::TextBox, "a4"},
         {"frmPilMet", "LePil", 3, Kind::TextBox, "a4"},
         {"frmPilMet", "UCPerfil1", -1, Kind::UCPerfil, "Perfil"},
         {"frmPilMet", "ChkArriostradaY", -1, Kind::CheckBox, "Arriostrado en Y"},
@@ -232,7 +232,8 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmEscHorm", "OptH2izqI", 2, Kind::OptionButton, "Extremo izquierdo inferior 2"},
         {"frmEscHorm", "TxtRes1", 1, Kind::TextBox, "Cortante"},
         // Stairs of concrete and of steel share their lengths and ends; light floors their spans.
-        {"frmEscMet", "TxCotaDesc", 4, Kind::TextBox, "Longitud escalera con descanso (m)"},
+        {"frmEscHorm", "TxCotaDesc", 4, Kind::TextBox, "Longitud escalera con descanso (m)"},
+        {"frmEscMet", "TxCotaDesc", 4, Kind::TextBox, "Longitud (m) 4"},
         {"frmEscMet", "OptLosa", 2, Kind::OptionButton, "De 2 tramos"},
         {"frmEscHorm", "OptLosa", 2, Kind::OptionButton, "Escalera 2 tramos"},
         {"frmForjAcer", "ChInclinado", -1, Kind::CheckBox, "Correas"},
