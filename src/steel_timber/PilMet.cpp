@@ -1,6 +1,7 @@
 #include "steel_timber/PilMet.h"
 
 #include <cmath>
+#include <tuple>
 
 #include "base/Texto.h"
 #include "works/Declaraciones.h"
@@ -78,7 +79,7 @@ void PilMet::TrasEvento(Control& c, bool cambio)
     manejador = [this, previo, origen](Control& x) {
         if (previo)
             previo(x);
-        Evento(origen, [this] { Calc_LongPandeo(); });
+        Evento(origen, [this] { Calc_LongPandeo(true); });
     };
 }
 
@@ -92,12 +93,6 @@ DatosComprobacion PilMet::LeeDatosComprobacion()
 {
     DatosComprobacion datos = PilHorm::LeeDatosComprobacion();
     Calc_LongPandeo();
-    // A sway column that is a mechanism is told at the press of the button.
-    Declaraciones& d = decl();
-    for (const auto& [eje, nombre] : {std::pair{&ejeX_, "X"}, std::pair{&ejeY_, "Y"}})
-        if (!eje->beta)
-            d.ui.MsgBox(Mensaje(d, kMsgMecanismo, {nombre, Formato00(eje->eta1), Formato00(eje->eta2)}), mb::Exclamation,
-                        Caption());
     return datos;
 }
 
@@ -147,11 +142,18 @@ void PilMet::Presenta(const char* sufijo, const PandeoEje& eje)
         c->SetCaption(eje.beta ? Formato00(*eje.beta) : "∞");
 }
 
-void PilMet::Calc_LongPandeo()
+void PilMet::Calc_LongPandeo(bool avisa)
 {
     Declaraciones& d = decl();
+    const bool finitoX = ejeX_.beta.has_value(), finitoY = ejeY_.beta.has_value();
     ejeX_ = CalculaEje(true);
     ejeY_ = CalculaEje(false);
+    if (avisa) {
+        for (const auto& [eje, antes, nombre] : {std::tuple{&ejeX_, finitoX, "X"}, std::tuple{&ejeY_, finitoY, "Y"}})
+            if (antes && !eje->beta)
+                d.ui.MsgBox(Mensaje(d, kMsgMecanismo, {nombre, Formato00(eje->eta1), Formato00(eje->eta2)}),
+                            mb::Exclamation, Caption());
+    }
     // A mechanism keeps the last factor of its axis in the shared variables.
     if (ejeX_.beta)
         d.BetaPandeoX = *ejeX_.beta;

@@ -20,7 +20,9 @@
 // a sway axis
 //   beta = sqrt((1 - 0.2 (eta1 + eta2) - 0.12 eta1 eta2) / (1 - 0.8 (eta1 + eta2) + 0.6 eta1 eta2)),
 // whose denominator is 0 when both ends are free to turn (eta1 = eta2 = 1): such a column is a
-// mechanism and has no finite effective length; the form says so and keeps the last factor.
+// mechanism and has no finite effective length. The window shows "∞" for it and the shared
+// variable keeps its last factor; the user's change that makes the column a mechanism is told
+// in a box, once. A save (and so the conversion) never stops on it.
 
 #include <optional>
 #include <string>
@@ -55,8 +57,9 @@ public:
     PilMet(Declaraciones& d, const TablaForm& tabla);
 
     // The effective length about both axes: the node coefficients and the factors into the
-    // shared variables BetaPandeoX and BetaPandeoY, and onto the window's labels.
-    void Calc_LongPandeo();
+    // shared variables BetaPandeoX and BetaPandeoY, and onto the window's labels. With `avisa`
+    // (a user's change) an axis that has just become a mechanism is told in a box.
+    void Calc_LongPandeo(bool avisa = false);
 
     const PandeoEje& EjeX() const { return ejeX_; }
     const PandeoEje& EjeY() const { return ejeY_; }

@@ -16,6 +16,7 @@
 
 #include "application/Aplicacion.h"
 #include "frame/Formularios.h"
+#include "frame/UCPerfil.h"
 #include "steel_timber/PilMet.h"
 #include "support/TestSupport.h"
 #include "works/LngPack.h"
@@ -198,31 +199,41 @@ TEST_F(SteelColumn, SwayColumnFreeToTurnAtBothEndsIsAMechanism)
 {
     auto f = Load();
     // Lowest level: the foot on the foundation (eta2 = 1); beams of the X axis with no stiffness
-    // (a section of the user's own of I = 0): eta1 = 2 Kc / 2 Kc = 1.
+    // (a section of the user's own of I = 0): eta1 = 2 Kc / 2 Kc = 1. Braced about X first: the
+    // factor of 1.025 / 1.025 = 1.
+    f->At("ChkArriostradaX").Click();
     f->At("CmbPlanta").SetListIndex(3);
-    f->At("OpPosPil", 2).SetOptionValue(true);
+    f->At("OpPosPil", 2).Click();
     for (int i : {0, 1}) {
-        f->At("UCViga", i).Set("Perfil", "otro");
-        f->At("UCViga", i).Set("Ix", "0");
+        PerfilEligeFamilia(f->At("UCViga", i), 6);
+        PerfilEscribeDato(f->At("UCViga", i), "Ix", "0");
     }
-    app.decl.BetaPandeoX = 0.75;
-    f->At("CmdCalcular").Click();
+    ASSERT_TRUE(f->EjeX().beta.has_value());
+    EXPECT_NEAR(*f->EjeX().beta, 1, 1e-12);
+    EXPECT_NEAR(app.decl.BetaPandeoX, 1, 1e-12);
+    EXPECT_TRUE(app.ui.boxes.empty());
+
+    // Unbraced, it is a mechanism: the change that makes it one is told, once.
+    f->At("ChkArriostradaX").Click();
     EXPECT_DOUBLE_EQ(f->EjeX().eta1, 1);
     EXPECT_DOUBLE_EQ(f->EjeX().eta2, 1);
     EXPECT_FALSE(f->EjeX().beta.has_value());
     EXPECT_EQ(f->At("LbBetaX").Caption(), "∞");
-    // The shared factor keeps its last value; the other axis is worked out.
-    EXPECT_DOUBLE_EQ(app.decl.BetaPandeoX, 0.75);
-    EXPECT_TRUE(f->EjeY().beta.has_value());
     ASSERT_EQ(app.ui.boxes.size(), 1u);
     EXPECT_NE(app.ui.boxes[0].prompt.find("eje X"), std::string::npos) << app.ui.boxes[0].prompt;
     EXPECT_NE(app.ui.boxes[0].prompt.find("1.00"), std::string::npos) << app.ui.boxes[0].prompt;
-    // The record is saved all the same: nothing is refused.
+    EXPECT_EQ(app.ui.boxes[0].style, mb::Exclamation);
+    f->At("ChPilSup").Click();
+    EXPECT_FALSE(f->EjeX().beta.has_value());
+    EXPECT_EQ(app.ui.boxes.size(), 1u);
+    // The shared factor keeps its last value; the other axis is worked out.
+    EXPECT_NEAR(app.decl.BetaPandeoX, 1, 1e-12);
+    EXPECT_TRUE(f->EjeY().beta.has_value());
+    // The record is saved all the same, with no box: nothing is refused, a run is not stopped.
+    f->At("CmdCalcular").Click();
     EXPECT_FALSE(f->UltimoGuardado().empty());
-    // Braced, the same column has a factor of 1.
-    f->At("ChkArriostradaX").Click();
-    ASSERT_TRUE(f->EjeX().beta.has_value());
-    EXPECT_NEAR(*f->EjeX().beta, 1, 1e-12);
+    EXPECT_EQ(app.ui.boxes.size(), 1u);
+    EXPECT_EQ(f->At("LbBetaX").Caption(), "∞");
 }
 
 TEST_F(SteelColumn, LoadEstimateIsTheConcreteColumnsOne)
