@@ -19,8 +19,8 @@ namespace {
 // The families of CmbPerfil, in the order of the catalogue; each has its hidden size list
 // CmbTam(i).
 constexpr std::string_view kFamilias[] = {"UPN", "IPN", "IPE", "HEA", "HEB", "HEM"};
-constexpr int kFamilias_n = static_cast<int>(std::size(kFamilias));
-static_assert(kFamilias_n == kFamiliasCatalogo, "one size list per family of the catalogue");
+constexpr int kNumFamilias = static_cast<int>(std::size(kFamilias));
+static_assert(kNumFamilias == kFamiliasCatalogo, "one size list per family of the catalogue");
 
 // The reference strength of e = sqrt(24000 / fy), t/m2.
 constexpr double kFyReferencia = 24000;
@@ -67,7 +67,7 @@ std::string TextoClase(double esbeltez, const std::array<float, 3>& limites)
 
 int FamiliaDeClase(std::string_view perfil)
 {
-    for (int i = 0; i < kFamilias_n; ++i)
+    for (int i = 0; i < kNumFamilias; ++i)
         if (kFamilias[static_cast<size_t>(i)] == perfil)
             return i;
     return -1;
@@ -99,7 +99,7 @@ FrmClaseAcero::FrmClaseAcero(Declaraciones& d) : Form(d, "frmClaseAcero", " Defi
     Add(Kind::ComboBox, "CmbAcero");
     Add(Kind::Label, "LbAcero");
     // The hidden size lists, one per family, from the catalogue of sections.
-    for (int f = 0; f < kFamilias_n; ++f) {
+    for (int f = 0; f < kNumFamilias; ++f) {
         Control& tam = Add(Kind::ComboBox, "CmbTam", f);
         std::vector<std::string> filas;
         for (int t : TamanosFamilia(f))
