@@ -456,7 +456,7 @@ void DatosGen::AsignaC_Click(int index)
     }
 }
 
-void DatosGen::cmdCatUso()
+void MuestraCategoriasUso(Declaraciones& d, std::string_view titulo)
 {
     static const char* texts[] = {
         "DEFINICIÓN DE SOBRECARGAS Y COEF. DE SIMULTANEIDAD",
@@ -470,23 +470,25 @@ void DatosGen::cmdCatUso()
         "  F.- Cubiertas transitables accesibles privadamente.",
         "  G.- Cubiertas accesibles sólo para conservación.",
     };
-    Declaraciones& d = decl();
     std::string all;
     for (int i = 0; i < 10; ++i) {
         d.Mensajes[static_cast<size_t>(1036 + i)] = texts[i];
         all += (i ? "\r\n" : "") + std::string(texts[i]);
     }
-    d.ui.MsgBox(all, mb::Information, Caption());
+    d.ui.MsgBox(all, mb::Information, titulo);
 }
 
-void DatosGen::cmdAyuda()
+void MuestraClasesServicio(Declaraciones& d, std::string_view titulo)
 {
-    Declaraciones& d = decl();
     std::string all;
     for (int i = 697; i <= 703; ++i)
         all += (i > 697 ? "\r\n" : "") + d.Msg(i);
-    d.ui.MsgBox(all, mb::Information, Caption());
+    d.ui.MsgBox(all, mb::Information, titulo);
 }
+
+void DatosGen::cmdCatUso() { MuestraCategoriasUso(decl(), Caption()); }
+
+void DatosGen::cmdAyuda() { MuestraClasesServicio(decl(), Caption()); }
 
 void DatosGen::Aceptar_Click()
 {

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Form.h"
@@ -13,6 +14,12 @@
 namespace vardena {
 
 struct Declaraciones;
+
+// The use categories of the imposed loads (cmdCatUso of the general data and of the forms
+// with that button) and the service classes of timber (cmdAyuda), each in an information box
+// under the caller's title.
+void MuestraCategoriasUso(Declaraciones& d, std::string_view titulo);
+void MuestraClasesServicio(Declaraciones& d, std::string_view titulo);
 
 // The long-term factor of a load step at day `day`, as stored in the general data.
 float FactorDiferido(float day);

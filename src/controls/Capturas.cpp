@@ -57,7 +57,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         {"DAGE", "2-datosgen"}, {"ACCI", "3-frmAccio"}, {"TERR", "4-frmSuelo"}, {"HVIG", "5-frmVigHorm"},
         {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"},
         {"FORR", "30-frmForjRet"}, {"FORP", "31-frmForMaci"}, {"ABAC", "32-frmAbaco"}, {"HMEN", "33-frmMensCorta"},
-        {"ESCH", "34-frmEscHorm"}, {"FORU", "20-frmForjUnid"}, {"FORS", "21-frmForjSitu"}};
+        {"ESCH", "34-frmEscHorm"}, {"FORU", "20-frmForjUnid"}, {"FORS", "21-frmForjSitu"},
+        {"APIL", "15-frmPilMet"}, {"AVIG", "16-frmVigMet"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)
@@ -89,6 +90,12 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
              if (b != std::string::npos)
                  t.SetSelStart(CharCount(t.Text().substr(0, b + 1)));
              t.Click();
+         }},
+        // The section classes of the IPE family in S 355.
+        {"frmClaseAcero",
+         [](Form& f) {
+             f.At("CmbAcero").SetListIndex(6);
+             f.At("CmbPerfil").SetListIndex(2);
          }},
     };
     int n = 8;

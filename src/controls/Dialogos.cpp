@@ -13,9 +13,11 @@
 #include "concrete/ForjUnid2.h"
 #include "controls/DialogoFichas.h"
 #include "controls/DialogoFabrica.h"
+#include "controls/DialogoClaseAcero.h"
 #include "controls/DialogosMapas.h"
 #include "ground_masonry/Fabrica.h"
 #include "controls/Ventanas.h"
+#include "steel_timber/ClaseAcero.h"
 #include "works/LngPack.h"
 #include "application/Mantenimiento.h"
 
@@ -161,6 +163,8 @@ std::unique_ptr<QDialog> CreaDialogo(Form& form, QWidget* parent)
         return std::make_unique<DialogoFichas>(*f, parent);
     if (auto* f = dynamic_cast<FrmFabrica*>(&form))
         return std::make_unique<DialogoFabrica>(*f, parent);
+    if (auto* c = dynamic_cast<FrmClaseAcero*>(&form))
+        return std::make_unique<DialogoClaseAcero>(*c, parent);
     return std::make_unique<VentanaDialogo>(form, Cerrado(form), parent);
 }
 

@@ -380,7 +380,9 @@ private:
         texto_->setFont(fija);
         texto_->setLineWrapMode(QTextEdit::NoWrap);
         const QFontMetrics m(fija);
-        texto_->setTabStopDistance(8 * m.horizontalAdvance(' '));
+        // Tab stops every 8 characters, or as many as the table asks for ("TabStop").
+        const int tab = std::max(1, std::atoi(control_.Get("TabStop").c_str()));
+        texto_->setTabStopDistance((control_.Get("TabStop").empty() ? 8 : tab) * m.horizontalAdvance(' '));
         QPalette p = texto_->palette();
         const std::string color = control_.Get("ForeColor");
         p.setColor(QPalette::Text, color.empty() ? QColor(Qt::black) : ColorVb(color));

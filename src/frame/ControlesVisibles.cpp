@@ -354,8 +354,8 @@ const std::vector<ControlVisible>& EtiquetasPandeo()
         {kTx, "TxtBetaY", -1, "Coef. de pandeo β Y"},
         {kCk, "ChkArriostradaX", -1, "Arriostrado en X"},
         {kCk, "ChkArriostradaY", -1, "Arriostrado en Y"},
-        {kCk, "ChRotS", -1, "Rótula en cabeza"},
-        {kCk, "ChRotI", -1, "Rótula en pie"},
+        {kCk, "ChRotS", -1, "Empotrado en cabeza"},
+        {kCk, "ChRotI", -1, "Empotrado en pie"},
     };
     return filas;
 }

@@ -9,6 +9,7 @@
 #include "ground_masonry/Fabrica.h"
 #include "frame/Campos.h"
 #include "frame/ElementForm.h"
+#include "steel_timber/ClaseAcero.h"
 #include "works/Catalogo.h"
 #include "base/FileIo.h"
 #include "base/Form.h"
@@ -43,6 +44,8 @@ const std::vector<FormPropio>& FormsPropios()
         // The masonry properties: a modal dialog that hands its figures back to its caller.
         {"frmFabrica", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmFabrica>(d); },
          GruposFabrica()},
+        // The section class table of the steel forms: no record, opened by their cmdClase.
+        {"frmClaseAcero", [](Declaraciones& d) -> std::unique_ptr<Form> { return std::make_unique<FrmClaseAcero>(d); }},
     };
     return propios;
 }

@@ -1,11 +1,18 @@
 // Stored fields of the steel and timber element forms, in the order of their records.
 // Each entry: name, member indices in the order the form defines them, kind, design texts.
 
+#include <vector>
+
 #include "concrete/PilHorm.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "frame/GruposVentana.h"
 #include "frame/Listas.h"
 #include "frame/Tramos.h"
+#include "steel_timber/BotonesAyuda.h"
+#include "steel_timber/Dependientes.h"
+#include "steel_timber/ForjAcer.h"
+#include "steel_timber/PilMet.h"
 
 namespace vardena {
 namespace {
@@ -119,6 +126,148 @@ constexpr CampoDef kCamposFrmEscMade[] = {
 };
 static_assert(CamposBienFormados(kCamposFrmEscMade));
 
+// The steel beam's window: the beam and its spans, its loads, its section with the button of
+// the class table, and its materials and use.
+constexpr std::string_view kVigMetViga[] = {"CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)", "TxCota(0)",
+                                            "TxCota(4)", "TxtPil(0)", "TxtPil(1)", "ChVigIzq",  "ChVigDer",
+                                            "ChPilIzq",  "ChPilDer"};
+constexpr std::string_view kVigMetCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "TxtQ(0)", "TxtQ(5)", "TxtQ(6)", "TxtQ(4)"};
+constexpr std::string_view kVigMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
+constexpr std::string_view kVigMetDatos[] = {"CmbAcero", "CmbCaso", "cmbPart", "cmdCatUso"};
+constexpr std::string_view kVigMetResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3", "TxtRes4"};
+constexpr GrupoDef kGruposVigMet[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, {}, 0},
+    {"FrDatosViga", 0, kVigMetDatos, {}, 0},
+    {"FrPerfilViga", 0, kVigMetPerfil, {}, 0},
+    {"FrViga", 0, kVigMetViga, {}, 1},
+    {"FrCargasViga", 0, kVigMetCargas, {}, 1},
+    {"UCframe2", 0, kVigMetResultados, {}, 1},
+};
+
+// The steel column's window: its level and loads, its position in plan with the plan and the
+// distances of that position, its section and the beams that reach it, and the effective
+// length: the end conditions and the coefficients worked out from them.
+constexpr std::string_view kPilMetNivel[] = {"txtTitulo", "CmbPlanta", "ChPilSup", "LePil(12)"};
+constexpr std::string_view kPilMetMateriales[] = {"CmbAcero", "CmbCaso"};
+constexpr std::string_view kPilMetEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kPilMetCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
+constexpr std::string_view kPilMetPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
+constexpr std::string_view kPilMetLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
+constexpr std::string_view kPilMetLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
+constexpr std::string_view kPilMetLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
+constexpr std::string_view kPilMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
+constexpr std::string_view kPilMetVigas[] = {"UCViga(0)", "UCViga(1)", "UCViga(2)", "UCViga(3)"};
+constexpr std::string_view kPilMetExtremos[] = {"ChkArriostradaX", "ChkArriostradaY", "ChRotS", "ChRotI"};
+constexpr std::string_view kPilMetCurvas[] = {"txtCurvaX", "txtCurvaY", "TxtBetaX", "TxtBetaY"};
+constexpr std::string_view kPilMetCoeficientes[] = {
+    "LbNomEta1X", "LbSimEta1X", "LbEta1X", "LbNomEta2X", "LbSimEta2X", "LbEta2X", "LbNomBetaX", "LbSimBetaX", "LbBetaX",
+    "LbNomEta1Y", "LbSimEta1Y", "LbEta1Y", "LbNomEta2Y", "LbSimEta2Y", "LbEta2Y", "LbNomBetaY", "LbSimBetaY", "LbBetaY"};
+constexpr std::string_view kPilMetResultados[] = {"TxtRes1", "TxtRes2"};
+constexpr GrupoDef kGruposPilMet[] = {
+    {"", kMsgGrupoElemento, kPilMetNivel, "", 0},
+    {"", 1501, kPilMetMateriales, "", 0},
+    {"UCframeEsf", 0, kPilMetEsfuerzos, "", 0},
+    {"LbCer", 0, kPilMetCerramiento, "", 0},
+    {"UCframePos", 0, kPilMetPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"UCframePandeo", 0, kPilMetExtremos, "", 0},
+    {"UCframeCurvas", 0, kPilMetCurvas, "", 0},
+    {"UCframeBeta", 0, kPilMetCoeficientes, "", 1, true},
+    {"UCframePerfil", 0, kPilMetPerfil, "", 2},
+    {"UCframeVigas", 0, kPilMetVigas, "", 2},
+    {"UCframeRes", 0, kPilMetResultados, "", 2},
+};
+
+// The column's plan and the distances of each position, as the concrete column shows them:
+// the steel and the timber column share these frames.
+const std::vector<ControlVisible>& EtiquetasPlantaPilar()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "UCframePos", -1, "Situación pilar en planta"},
+        {kPc, "Ptpilar", 0, ""},
+        {kPc, "Ptpilar", 1, ""},
+        {kPc, "Ptpilar", 2, ""},
+        {kFr, "UCframeLucesEsq", -1, "Luces en metros"},
+        {kFr, "UCframeLucesBor", -1, "Luces en metros"},
+        {kFr, "UCframeLucesCen", -1, "Luces en metros"},
+        {kTx, "LePil", 0, "a1"}, {kTx, "LePil", 1, "a2"}, {kTx, "LePil", 2, "a3"}, {kTx, "LePil", 3, "a4"},
+        {kTx, "LePil", 4, "a1"}, {kTx, "LePil", 5, "a2"}, {kTx, "LePil", 6, "a3"}, {kTx, "LePil", 7, "a4"},
+        {kTx, "LePil", 8, "a1"}, {kTx, "LePil", 9, "a2"}, {kTx, "LePil", 10, "a3"}, {kTx, "LePil", 11, "a4"},
+        {kFr, "UCframeEsf", -1, "Esfuerzos mayorados"},
+        {kLb, "LbCer", -1, "Cerramiento (sin mayorar)"},
+        {kLb, "LbP1", 0, "P="},
+        {kLb, "LbP1", 2, ""},
+        {kFr, "UCframePandeo", -1, "Pandeo: extremos del pilar"},
+        {kFr, "UCframeCurvas", -1, "Curvas de pandeo"},
+        {kFr, "UCframeRes", -1, "Coeficientes seguridad:"},
+    };
+    return filas;
+}
+
+// The timber column's window: as the steel column's, with its timber section and its fire
+// resistance in the place of the steel section and the beams.
+constexpr std::string_view kPilMadeMateriales[] = {"CmbResis", "CmbServi", "CmbUso", "CmdAyuda"};
+constexpr std::string_view kPilMadeSeccion[] = {"CmbForma", "txtTramo", "TxtPorcent", "cmbesviada"};
+constexpr std::string_view kPilMadeFuego[] = {"txtEF"};
+constexpr std::string_view kPilMadeCurvas[] = {"TxtBetaX", "TxtBetaY"};
+constexpr std::string_view kPilMadeResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3"};
+constexpr GrupoDef kGruposPilMade[] = {
+    {"", kMsgGrupoElemento, kPilMetNivel, "", 0},
+    {"", 1501, kPilMadeMateriales, "", 0},
+    {"UCframeEsf", 0, kPilMetEsfuerzos, "", 0},
+    {"LbCer", 0, kPilMetCerramiento, "", 0},
+    {"UCframePandeo", 0, kPilMetExtremos, "", 0},
+    {"UCframePos", 0, kPilMetPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"UCframeSeccion", 0, kPilMadeSeccion, "", 2},
+    {"FrmFuego", 0, kPilMadeFuego, "", 2},
+    {"UCframeCurvas", 0, kPilMadeCurvas, "", 2},
+    {"UCframeRes", 0, kPilMadeResultados, "", 2},
+};
+
+// The timber beam's window: as the steel beam's, with its timber section, its shared-load
+// factor and its fire resistance, each in its frame.
+constexpr std::string_view kVigMadeMateriales[] = {"CmbResis", "CmbServi", "CmdAyuda"};
+constexpr std::string_view kVigMadeDatos[] = {"cmbPart", "CmbUso"};
+constexpr std::string_view kVigMadeCargaComp[] = {"CmbCargaComp"};
+constexpr std::string_view kVigMadeSeccion[] = {"TextDviga(0)", "TextDviga(1)"};
+constexpr std::string_view kVigMadeFuego[] = {"txtEF", "txtResF1", "txtResF2"};
+constexpr GrupoDef kGruposVigMade[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, {}, 0},
+    {"", 1501, kVigMadeMateriales, {}, 0},
+    {"FrDatosViga", 0, kVigMadeDatos, {}, 0},
+    {"FrCargaComp", 0, kVigMadeCargaComp, {}, 0},
+    {"FrSeccionViga", 0, kVigMadeSeccion, {}, 0},
+    {"FrViga", 0, kVigMetViga, {}, 1},
+    {"FrCargasViga", 0, kVigMetCargas, {}, 1},
+    {"FrmFuego", 0, kVigMadeFuego, {}, 1},
+    {"UCframe2", 0, kVigMetResultados, {}, 1},
+};
+
+// The steel stair's window: its kind, then the lengths and ends of each kind in a frame of its
+// own that shows while that kind is chosen, the section and the results.
+constexpr std::string_view kEscMetTipo[] = {"OptLosa(0)", "OptLosa(1)", "OptLosa(2)", "OptLosa(3)"};
+constexpr std::string_view kEscMetDatos[] = {"CmbAcero", "txtSolado", "txtSobrUso", "txtAncho"};
+constexpr std::string_view kEscMetUnTramo[] = {"TxCotaH1", "OptH1izq", "OptH1der"};
+constexpr std::string_view kEscMetDescanso[] = {"TxCotaDesc", "OptDApoIzq", "OptDApoDer"};
+constexpr std::string_view kEscMetDosTramos[] = {"TxCotaH2", "OptH2izqS", "OptH2izqI", "OptH2der"};
+constexpr std::string_view kEscMetRampa[] = {"TxCotaRampa", "OptRampaApoIzq", "OptRampaApoDer"};
+constexpr std::string_view kEscMetPerfil[] = {"UCPerfil1"};
+constexpr GrupoDef kGruposEscMet[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad, "", 0},
+    {"FrTipoEscalera", 0, kEscMetTipo, "", 0},
+    {"FrDatosEscalera", 0, kEscMetDatos, "", 0},
+    {"FrUnTramo", 0, kEscMetUnTramo, "", 1},
+    {"FrDescanso", 0, kEscMetDescanso, "", 1},
+    {"FrDosTramos", 0, kEscMetDosTramos, "", 1},
+    {"FrRampa", 0, kEscMetRampa, "", 1},
+    {"FrPerfilEscalera", 0, kEscMetPerfil, "", 2},
+};
+
 }  // namespace
 
 std::span<const TablaForm> TablasAceroMadera()
@@ -130,15 +279,36 @@ std::span<const TablaForm> TablasAceroMadera()
          "Vigas Metálicas", "Viga Metálica. P 01-02", kNada, kMinimosVano,
          ListasAcero() + ListasViga(),
          {Magnitud::Fuerza, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Lineal, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
-         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga}),
-         MenuDef{"Acero", 1, "mnuVigMet", ""}, {}, &CreaDe<FormaViga>},
+         Visibles({EtiquetasViga, EtiquetasContinuidad, EtiquetasPilaresViga, EtiquetasResultadosAcero}, {
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrDatosViga", -1, "Datos iniciales"},
+             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrPerfilViga", -1, "Perfil"},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
+             {kBt, "cmdClase", -1, "Clase"},
+             {kBt, "cmdCatUso", -1, "Cat. uso"},
+         }),
+         MenuDef{"Acero", 1, "mnuVigMet", ""}, kGruposVigMet, &CreaDe<ConBotonesAyuda<FormaViga>>},
         {"frmPilMet", kCamposFrmPilMet,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilares Metálicos", "Pilar Metálico 01", kPosicionInterior, kMinimosPilMet,
          ListasAcero(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo}),
-         MenuDef{"Acero", 2, "mnuPilMet", ""}, {}, &CreaDe<PilHorm>},
+         Visibles({EtiquetasPilar, EtiquetasPilarAcero, EtiquetasPandeo, EtiquetasPlantaPilar}, {
+             {kFr, "UCframePerfil", -1, "Perfil del pilar"},
+             {kFr, "UCframeVigas", -1, "Vigas que llegan al pilar"},
+             {kPf, "UCViga", 0, "Viga a1"}, {kPf, "UCViga", 1, "Viga a2"},
+             {kPf, "UCViga", 2, "Viga a3"}, {kPf, "UCViga", 3, "Viga a4"},
+             {kFr, "UCframeBeta", -1, "Longitud de pandeo calculada"},
+             {kLb, "LbNomEta1X", -1, "Cabeza, eje X"}, {kLb, "LbSimEta1X", -1, "η1"}, {kLb, "LbEta1X", -1, ""},
+             {kLb, "LbNomEta2X", -1, "Pie, eje X"}, {kLb, "LbSimEta2X", -1, "η2"}, {kLb, "LbEta2X", -1, ""},
+             {kLb, "LbNomBetaX", -1, "Pandeo, eje X"}, {kLb, "LbSimBetaX", -1, "β"}, {kLb, "LbBetaX", -1, ""},
+             {kLb, "LbNomEta1Y", -1, "Cabeza, eje Y"}, {kLb, "LbSimEta1Y", -1, "η1"}, {kLb, "LbEta1Y", -1, ""},
+             {kLb, "LbNomEta2Y", -1, "Pie, eje Y"}, {kLb, "LbSimEta2Y", -1, "η2"}, {kLb, "LbEta2Y", -1, ""},
+             {kLb, "LbNomBetaY", -1, "Pandeo, eje Y"}, {kLb, "LbSimBetaY", -1, "β"}, {kLb, "LbBetaY", -1, ""},
+             {kBt, "cmdClase", -1, "Clase"},
+         }),
+         MenuDef{"Acero", 2, "mnuPilMet", ""}, kGruposPilMet, &CreaDe<PilMet>},
         {"frmBasMet", kCamposFrmBasMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Bases metálicas", "Base pilar 01", kNada, kNada,
@@ -163,7 +333,7 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "TxtRes1", 1, "Chapa"},
              {kTx, "TxtRes1", 2, "Cartelas"},
          }),
-         MenuDef{"Acero", 3, "mnuBasMet", ""}},
+         MenuDef{"Acero", 3, "mnuBasMet", ""}, {}, &CreaDe<FormaDependientes>},
         {"frmForjAcer", kCamposFrmForjAcer,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjados y correas de cubierta de perfiles metálicos", "Forjado Metálico 01", kNada, kMinimosForjAcer,
@@ -171,20 +341,46 @@ std::span<const TablaForm> TablasAceroMadera()
          {Magnitud::Lineal, Magnitud::SuperficieKg, Magnitud::SuperficieKg, Magnitud::Lineal, Magnitud::Lineal}, Despacho::Registros, true,
          Visibles({EtiquetasForjadoLigero, EtiquetasContinuidad, EtiquetasResultadosAcero}, {
              {kCk, "ChInclinado", -1, "Correas"},
+             {kBt, "cmdClase", -1, "Clase"},
+             {kBt, "cmdCatUso", -1, "Cat. uso"},
          }),
-         MenuDef{"Acero", 4, "mnuForjAcer", ""}},
+         MenuDef{"Acero", 4, "mnuForjAcer", ""}, {}, &CreaDe<ForjAcer>},
         {"frmEscMet", kCamposFrmEscMet,
          {true, true, PasoComprobacion::Ninguno, true},
          "Escaleras Metálicas", "Escalera Metálica 01", kNada, kNada,
          ListasAcero(),
          {}, Despacho::Ninguno, true,
-         Visibles({EtiquetasEscalera, EtiquetasResultadosAcero}, {
+         // Each kind's lengths and ends stand in the frame of that kind, which names it.
+         Visibles({EtiquetasResultadosAcero}, {
+             {kTx, "txtAncho", -1, "Ancho (m)"},
+             {kTx, "txtSobrUso", -1, "Sobrecarga de uso"},
+             {kTx, "txtSolado", -1, "Solado"},
+             {kTx, "TxCotaH1", -1, "Longitud (m) #"},
+             {kTx, "TxCotaDesc", -1, "Longitud (m) #"},
+             {kTx, "TxCotaH2", -1, "Longitud (m) #"},
+             {kTx, "TxCotaRampa", -1, "Longitud (m) #"},
+             {kOp, "OptH1izq", -1, "Izquierdo #"},
+             {kOp, "OptH1der", -1, "Derecho #"},
+             {kOp, "OptDApoIzq", -1, "Izquierdo #"},
+             {kOp, "OptDApoDer", -1, "Derecho #"},
+             {kOp, "OptH2izqS", -1, "Izquierdo superior #"},
+             {kOp, "OptH2izqI", -1, "Izquierdo inferior #"},
+             {kOp, "OptH2der", -1, "Derecho #"},
+             {kOp, "OptRampaApoIzq", -1, "Izquierdo #"},
+             {kOp, "OptRampaApoDer", -1, "Derecho #"},
              {kOp, "OptLosa", 0, "De 1 tramo"},
              {kOp, "OptLosa", 1, "De 1 tramo con descanso"},
              {kOp, "OptLosa", 2, "De 2 tramos"},
              {kOp, "OptLosa", 3, "Rampa"},
+             {kFr, "FrTipoEscalera", -1, "Tipo de escalera"},
+             {kFr, "FrDatosEscalera", -1, "Datos"},
+             {kFr, "FrUnTramo", -1, "De 1 tramo"},
+             {kFr, "FrDescanso", -1, "De 1 tramo con descanso"},
+             {kFr, "FrDosTramos", -1, "De 2 tramos"},
+             {kFr, "FrRampa", -1, "Rampa"},
+             {kFr, "FrPerfilEscalera", -1, "Perfil principal"},
          }),
-         MenuDef{"Acero", 5, "mnuEscMet", ""}},
+         MenuDef{"Acero", 5, "mnuEscMet", ""}, kGruposEscMet, &CreaDe<FormaDependientes>},
         {"frmVigMade", kCamposFrmVigMade,
          // Reasoned titles for the timber forms, after the concrete and steel ones.
          {false, true, PasoComprobacion::SinArgumentos, false},
@@ -196,18 +392,29 @@ std::span<const TablaForm> TablasAceroMadera()
              {kTx, "TextDviga", -1, "Sección"},
              {kTx, "TextDviga", 0, "Ancho b (cm)"},
              {kTx, "TextDviga", 1, "Canto h (cm)"},
+             {kBt, "CmdAyuda", -1, "Clases:"},
+             {kFr, "FrDatosViga", -1, "Datos iniciales"},
+             {kFr, "FrCargaComp", -1, "Factor de carga compartida"},
+             {kFr, "FrSeccionViga", -1, "Sección"},
+             {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
+             {kFr, "FrCargasViga", -1, "Cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrmFuego", -1, "Resistencia al fuego"},
+             {kCb, "CmTramos", -1, "Nº de tramos de carga"},
          }),
-         MenuDef{"Madera", 1, "mnuVigMade", ""}, {}, &CreaDe<FormaViga>},
+         MenuDef{"Madera", 1, "mnuVigMade", ""}, kGruposVigMade, &CreaDe<ConBotonesAyuda<FormaViga>>},
         {"frmPilMade", kCamposFrmPilMade,
          {false, false, PasoComprobacion::SinArgumentos, false},
          "Pilar de Madera", "Pilar Madera 01", kPosicionInterior, kMinimosPilar,
          Listas{{"CmbUso", -1, kUsoPilar}} + ListasMadera() + ListasPilar(),
          {Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::LinealKg}, Despacho::Registros, true,
-         Visibles({EtiquetasPilar, EtiquetasPandeo}, {
+         Visibles({EtiquetasPilar, EtiquetasPandeo, EtiquetasPlantaPilar}, {
              {kTx, "txtTramo", -1, "Dimensión (cm)"},
              {kTx, "TxtPorcent", -1, "Porcentaje (%)"},
+             {kBt, "CmdAyuda", -1, "Clases:"},
+             {kFr, "UCframeSeccion", -1, "Sección (cm)"},
+             {kFr, "FrmFuego", -1, "Resistencia al fuego"},
          }),
-         MenuDef{"Madera", 2, "mnuPilMade", ""}, {}, &CreaDe<PilHorm>},
+         MenuDef{"Madera", 2, "mnuPilMade", ""}, kGruposPilMade, &CreaDe<ConBotonesAyuda<PilHorm>>},
         {"frmForMade", kCamposFrmForMade,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Forjado de Madera", "Forjado Madera 01", kNada, kMinimosForMade,
@@ -220,14 +427,15 @@ std::span<const TablaForm> TablasAceroMadera()
              {kCk, "ChInclinado", -1, "Forjado inclinado"},
              {kTx, "TextDviga", 0, "Ancho vigueta b (cm)"},
              {kTx, "TextDviga", 1, "Canto vigueta h (cm)"},
+             {kBt, "CmdAyuda", -1, "Clases:"},
          }),
-         MenuDef{"Madera", 3, "mnuForMade", ""}},
+         MenuDef{"Madera", 3, "mnuForMade", ""}, {}, &CreaDe<ConBotonesAyuda<ElementForm>>},
         {"frmEscMade", kCamposFrmEscMade,
          {true, true, PasoComprobacion::Bandera, true},
          "Escalera de Madera", "Escalera Madera 01", kNada, kNada,
          ListasMadera(),
-         {}, Despacho::Ninguno, true, {},
-         MenuDef{"Madera", 4, "mnuEscMade", ""}},
+         {}, Despacho::Ninguno, true, Visibles({}, {{kBt, "CmdAyuda", -1, "Clases:"}}),
+         MenuDef{"Madera", 4, "mnuEscMade", ""}, {}, &CreaDe<ConBotonesAyuda<ElementForm>>},
     };
     static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;

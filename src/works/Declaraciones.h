@@ -146,6 +146,9 @@ struct Declaraciones {
     // for the masonry wall form's next load; empty when there is none.
     std::string DensidadMurosPendiente;
 
+    // The effective length factors of the last steel column worked out, about its X and Y axes.
+    double BetaPandeoX = 0, BetaPandeoY = 0;
+
     // Sets the general data to those of a new work, as the general-data form draws them.
     void GeneralDataDefaults();
 

@@ -58,7 +58,7 @@ TEST(Agrupacion, IdentityFirstResultsLastArraysInIndexOrder)
         const char* form;
         const char* array;
     };
-    for (const Caso& caso : {Caso{"frmZapCorr", "TxtQ"}, Caso{"frmPilMet", "LePil"}, Caso{"frmMuros", "TxtCota"}}) {
+    for (const Caso& caso : {Caso{"frmZapCorr", "TxtQ"}, Caso{"frmForMade", "txtForj"}, Caso{"frmMuros", "TxtCota"}}) {
         SCOPED_TRACE(caso.form);
         ObraConIdioma obra;
         auto form = CreaForm(obra.d(), caso.form);
