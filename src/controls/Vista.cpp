@@ -89,7 +89,7 @@ public:
             area_ = new QPlainTextEdit();
             area_->setTabChangesFocus(true);
             area_->installEventFilter(filtro_);
-            QObject::connect(area_, &QPlainTextEdit::textChanged, [this] {
+            QObject::connect(area_, &QPlainTextEdit::textChanged, &contexto_, [this] {
                 if (!refrescando_)
                     Accion([this] { control_.SetText(AModelo(area_->toPlainText())); });
             });
@@ -97,15 +97,14 @@ public:
             linea_ = new QLineEdit();
             linea_->installEventFilter(filtro_);
             if (op.alTerminar)
-                QObject::connect(linea_, &QLineEdit::editingFinished, [this] {
+                QObject::connect(linea_, &QLineEdit::editingFinished, &contexto_, [this] {
                     if (Q(control_.Text()) != linea_->text())
                         Accion([this] { control_.SetText(linea_->text().toStdString()); });
                 });
             else
-                QObject::connect(linea_, &QLineEdit::textEdited,
-                                 [this](const QString& t) { Accion([this, t] { control_.SetText(t.toStdString()); }); });
+                QObject::connect(linea_, &QLineEdit::textEdited, &contexto_, [this](const QString& t) { Accion([this, t] { control_.SetText(t.toStdString()); }); });
         }
-        filtro_->setParent(widget());
+        filtro_->setParent(&contexto_);
         filtro_->tecla = [this](QKeyEvent* ev) {
             bool tragada = false;
             Accion([&] {
@@ -178,7 +177,7 @@ public:
     AdCombo(Control& c, VistaForm& v) : Adaptador(c, v), combo_(new QComboBox())
     {
         combo_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-        QObject::connect(combo_, &QComboBox::activated, [this](int i) { Accion([this, i] { control_.SetListIndex(i); }); });
+        QObject::connect(combo_, &QComboBox::activated, &contexto_, [this](int i) { Accion([this, i] { control_.SetListIndex(i); }); });
     }
     QWidget* widget() const override { return combo_; }
     void Refresca() override
@@ -196,13 +195,13 @@ class AdLista : public Adaptador {
 public:
     AdLista(Control& c, VistaForm& v) : Adaptador(c, v), lista_(new QListWidget())
     {
-        QObject::connect(lista_, &QListWidget::currentRowChanged, [this](int fila) {
+        QObject::connect(lista_, &QListWidget::currentRowChanged, &contexto_, [this](int fila) {
             if (refrescando_ || fila < 0)
                 return;
             recien_ = true;
             Accion([this, fila] { control_.SetListIndex(fila); });
         });
-        QObject::connect(lista_, &QListWidget::itemClicked, [this](QListWidgetItem* item) {
+        QObject::connect(lista_, &QListWidget::itemClicked, &contexto_, [this](QListWidgetItem* item) {
             if (recien_) {
                 recien_ = false;
                 return;
@@ -210,11 +209,11 @@ public:
             const int fila = lista_->row(item);
             Accion([this, fila] { control_.SetListIndex(fila); });
         });
-        QObject::connect(lista_, &QListWidget::itemDoubleClicked, [this](QListWidgetItem*) {
+        QObject::connect(lista_, &QListWidget::itemDoubleClicked, &contexto_, [this](QListWidgetItem*) {
             recien_ = false;
             Accion([this] { control_.DblClick(); });
         });
-        filtro_ = new Filtro(lista_);
+        filtro_ = new Filtro(&contexto_);
         filtro_->tecla = [this](QKeyEvent* ev) {
             if (ev->key() == Qt::Key_Delete)
                 Accion([this] { control_.KeyDown(46); });
@@ -253,7 +252,7 @@ class AdCheck : public Adaptador {
 public:
     AdCheck(Control& c, VistaForm& v) : Adaptador(c, v), check_(new QCheckBox())
     {
-        QObject::connect(check_, &QCheckBox::clicked, [this] { Accion([this] { control_.Click(); }); });
+        QObject::connect(check_, &QCheckBox::clicked, &contexto_, [this] { Accion([this] { control_.Click(); }); });
     }
     QWidget* widget() const override { return check_; }
     void Refresca() override
@@ -274,7 +273,7 @@ public:
     {
         // The model keeps the buttons of a group exclusive.
         opcion_->setAutoExclusive(false);
-        QObject::connect(opcion_, &QRadioButton::clicked, [this] { Accion([this] { control_.Click(); }); });
+        QObject::connect(opcion_, &QRadioButton::clicked, &contexto_, [this] { Accion([this] { control_.Click(); }); });
     }
     QWidget* widget() const override { return opcion_; }
     void Refresca() override
@@ -306,7 +305,7 @@ class AdBoton : public Adaptador {
 public:
     AdBoton(Control& c, VistaForm& v) : Adaptador(c, v), boton_(new QPushButton())
     {
-        QObject::connect(boton_, &QPushButton::clicked, [this] { Accion([this] { control_.Click(); }); });
+        QObject::connect(boton_, &QPushButton::clicked, &contexto_, [this] { Accion([this] { control_.Click(); }); });
     }
     QWidget* widget() const override { return boton_; }
     void Refresca() override

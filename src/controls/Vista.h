@@ -5,6 +5,7 @@
 // whole view is refreshed from the model, so that whatever a handler changed shows at once.
 // The widgets hold no value of their own: the model is the one truth.
 
+#include <QObject>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -46,6 +47,10 @@ protected:
 
     Control& control_;
     VistaForm& vista_;
+    // The context of the widget's connections and the owner of its event filters: both end with
+    // the adapter, so a widget that outlives it (a dialog's line edit losing its focus as the
+    // dialog is taken down) never calls into an adapter that is gone.
+    QObject contexto_;
 };
 
 std::unique_ptr<Adaptador> CreaAdaptador(Control& c, VistaForm& vista, const OpcionesAdaptador& op = {});
