@@ -93,13 +93,18 @@ const std::vector<ControlVisible>& EtiquetasDibujoVigaHormigon()
 // their sizes; each end's cantilever and support, its data and the transverse bending; the bars,
 // the optional layers with their lengths; the stirrups under the sections.
 constexpr std::string_view kVigHormDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta"};
-constexpr std::string_view kVigHormViga[] = {"PctViga"};
+constexpr std::string_view kVigHormViga[] = {"PctViga", "CmTramos"};
 constexpr std::string_view kVigHormIzquierda[] = {"ChVigIzq", "LbVolIzq", "TxCota(0)", "LbCargaVolIzq", "TxtQ(0)",
                                                   "ChPilIzq", "LbPilIzq", "TxtPil(0)"};
 constexpr std::string_view kVigHormDerecha[] = {"ChVigDer", "LbVolDer", "TxCota(4)", "LbCargaVolDer", "TxtQ(4)",
                                                 "ChPilDer", "LbPilDer", "TxtPil(1)"};
-constexpr std::string_view kVigHormTramos[] = {"CmTramos", "TxCota(1)", "TxCota(2)", "TxtQ(1)",   "TxCota(3)",
-                                               "TxtQ(2)",  "TxtQ(3)",   "LbCargaP1", "TxtQ(5)", "LbCargaP2", "TxtQ(6)"};
+// The spans editor as a table: the span, each load stretch with its length and its load, the
+// span's point loads.
+constexpr std::string_view kVigHormTramos[] = {"TxCota(1)", "",        "TxCota(2)", "TxtQ(1)", "TxCota(3)", "TxtQ(2)",
+                                               "",          "TxtQ(3)", "",          "TxtQ(5)", "",          "TxtQ(6)"};
+constexpr std::string_view kVigHormTramosColumnas[] = {"", "Longitud (m)", "Carga"};
+constexpr std::string_view kVigHormTramosFilas[] = {"Vano entre apoyos", "Tramo 1", "Tramo 2", "Tramo 3",
+                                                    "P a 1/3 del vano", "P a 2/3 del vano"};
 constexpr std::string_view kVigHormSeccion[] = {"PctSeccion", "PictIzq", "PictDer", "TextDviga(0)", "TextDviga(1)"};
 constexpr std::string_view kVigHormBarras[] = {"UCArVig"};
 constexpr std::string_view kVigHormCapasIzq[] = {"ChArV(1)", "TxLv(1)", "ChArV(2)", "TxLv(2)", "ChArV(3)", "TxLv(3)"};
@@ -108,7 +113,7 @@ constexpr std::string_view kVigHormCapasInf[] = {"ChArV(8)", "TxLv(7)", "TxLv(8)
 constexpr std::string_view kVigHormCercos[] = {"UCArCer"};
 constexpr std::string_view kVigHormTransversal[] = {"ChTrans", "TxCota(5)", "TxCota(6)"};
 constexpr GrupoDef kGruposVigHorm[] = {
-    {"FrViga", 0, kVigHormViga, {}, 0},           {"FrTramosViga", 0, kVigHormTramos, {}, 0},
+    {"FrViga", 0, kVigHormViga, {}, 0},           {"FrTramosViga", 0, kVigHormTramos, {}, 0, false, kVigHormTramosColumnas, kVigHormTramosFilas},
     {"FrSeccionViga", 0, kVigHormSeccion, {}, 0}, {"FrCercosViga", 0, kVigHormCercos, {}, 0},
     {"FrIzquierdaViga", 0, kVigHormIzquierda, {}, 1}, {"FrDerechaViga", 0, kVigHormDerecha, {}, 1},
     {"FrDatosViga", 0, kVigHormDatos, {}, 1},     {"UCframeT", 0, kVigHormTransversal, {}, 1},
@@ -126,7 +131,7 @@ constexpr std::string_view kVigRegCerramiento[] = {"TxtQ(7)"};
 constexpr std::string_view kVigRegEsfuerzos[] = {"txtMom", "txtCor", "txtGiro"};
 constexpr GrupoDef kGruposVigRegHorm[] = {
     {"FrEsquema", 0, kVigRegEsquema, {}, 0},          {"FrPortico", 0, kVigRegPortico, {}, 0},
-    {"FrViga", 0, kVigHormViga, {}, 0},               {"FrTramosViga", 0, kVigHormTramos, {}, 0},
+    {"FrViga", 0, kVigHormViga, {}, 0},               {"FrTramosViga", 0, kVigHormTramos, {}, 0, false, kVigHormTramosColumnas, kVigHormTramosFilas},
     {"FrSeccionViga", 0, kVigHormSeccion, {}, 0},     {"FrCercosViga", 0, kVigHormCercos, {}, 0},
     {"FrIzquierdaViga", 0, kVigHormIzquierda, {}, 1}, {"FrDerechaViga", 0, kVigHormDerecha, {}, 1},
     {"FrDatosViga", 0, kVigRegDatos, {}, 1},          {"FrCerramiento", 0, kVigRegCerramiento, {}, 1},

@@ -139,6 +139,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
     }
     // The masonry properties dialog, as the general data's button opens it, on perforated brick
     // with lightweight mortar so that the flexural strengths read "No"; then the wall windows.
+    // The masonry pictures number from 50, clear of the fixed numbers above.
+    n = 50;
     if (std::unique_ptr<Form> fabrica = CargaForm(programa.app().decl, "frmFabrica")) {
         programa.app().decl.FormActivo = "DatosGen";
         fabrica->At("cmbTipoFabr").SetListIndex(2);

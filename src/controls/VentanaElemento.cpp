@@ -301,6 +301,32 @@ QWidget* VentanaElemento::WidgetDe(Control& c)
     return vista_->De(c, op).widget();
 }
 
+QWidget* VentanaElemento::Unidad(const Control& c)
+{
+    auto* unidad = new QWidget();
+    auto* h = new QHBoxLayout(unidad);
+    h->setContentsMargins(0, 0, 0, 0);
+    for (const char* par : {"lbST", "lbSI"})
+        if (Control* u = form_->Find(par, c.Index()))
+            h->addWidget(vista_->De(*u).widget());
+    return unidad;
+}
+
+QWidget* VentanaElemento::ConUnidad(const Control& c, QWidget* w)
+{
+    if (c.Name() != "TxtQ")
+        return w;
+    auto* celda = new QWidget();
+    auto* h = new QHBoxLayout(celda);
+    h->setContentsMargins(0, 0, 0, 0);
+    h->addWidget(w);
+    QWidget* unidad = Unidad(c);
+    h->addWidget(unidad);
+    h->addStretch();
+    siguen_.emplace_back(unidad, &c);
+    return celda;
+}
+
 QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
 {
     auto* grupo = new QGroupBox(Q(g.titulo));
@@ -320,6 +346,37 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     // The band of the sketches being placed side by side.
     QHBoxLayout* croquis = nullptr;
     int fila = 0, col = 0;
+    if (!g.cabeceras.empty()) {
+        // A grid: the headings, then a row a name with its values under their columns. A row's
+        // name shows while its last cell does (a stretch's load shows while the stretch is used).
+        for (size_t k = 0; k < g.cabeceras.size(); ++k) {
+            QLabel* cabecera = Etiqueta(g.cabeceras[k]);
+            cabecera->setStyleSheet("font-weight: bold;");
+            rejilla->addWidget(cabecera, 0, static_cast<int>(k));
+        }
+        const size_t porFila = g.cabeceras.size() - 1;
+        for (size_t r = 0; r < g.rotulosFilas.size(); ++r) {
+            const int f = static_cast<int>(r) + 1;
+            const Control* ultima = nullptr;
+            for (size_t k = 0; k < porFila; ++k) {
+                const size_t i = r * porFila + k;
+                Control* c = i < g.celdas.size() ? g.celdas[i] : nullptr;
+                if (!c)
+                    continue;
+                ultima = c;
+                QWidget* w = WidgetDe(*c);
+                if (auto* linea = qobject_cast<QLineEdit*>(w))
+                    linea->setMaximumWidth(90);
+                rejilla->addWidget(ConUnidad(*c, w), f, static_cast<int>(k) + 1);
+            }
+            QLabel* rotulo = Etiqueta(g.rotulosFilas[r]);
+            rejilla->addWidget(rotulo, f, 0);
+            if (ultima)
+                siguen_.emplace_back(rotulo, ultima);
+        }
+        rejilla->setColumnStretch(static_cast<int>(g.cabeceras.size()), 1);
+        return grupo;
+    }
     if (g.tabla) {
         // A row a value: what it is, its symbol and unit, the value.
         for (Control* c : g.miembros) {
@@ -403,12 +460,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
                 lista->setMaximumWidth(170);
             // The unit of a load field: the technical and the S.I. label share the cell.
             if (c->Name() == "TxtQ") {
-                auto* unidad = new QWidget();
-                auto* h = new QHBoxLayout(unidad);
-                h->setContentsMargins(0, 0, 0, 0);
-                for (const char* par : {"lbST", "lbSI"})
-                    if (Control* u = form_->Find(par, c->Index()))
-                        h->addWidget(vista_->De(*u).widget());
+                QWidget* unidad = Unidad(*c);
                 rejilla->addWidget(unidad, fila, base + 2);
                 siguen_.emplace_back(unidad, c);
             }

@@ -60,6 +60,9 @@ protected:
 private:
     QWidget* CreaDatos();
     QWidget* CreaGrupo(const GrupoCampos& g);
+    // The unit labels of a load field (technical and S.I.), and the field with them beside it.
+    QWidget* Unidad(const Control& c);
+    QWidget* ConUnidad(const Control& c, QWidget* w);
     QWidget* CreaPanel();
     // The widget of a field, handing its text over when editing ends where a change of the
     // field runs the form's logic.

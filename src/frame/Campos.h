@@ -179,6 +179,9 @@ struct MenuDef {
 // label says what the value is, the others (its symbol, its unit) stand beside it. The value is
 // a field, or, in a group without fields, the third label of the row (a label that shows a
 // calculated value).
+// A group with `columnas` is a grid: the first heading is that of the rows' names (`filas`), the
+// others those of the columns of values; `controles` gives the cells row by row, "" for a cell
+// left empty.
 struct GrupoDef {
     std::string_view marco;
     int mensaje = 0;
@@ -186,6 +189,8 @@ struct GrupoDef {
     std::string_view dentro = {};
     int columna = -1;
     bool tabla = false;
+    std::span<const std::string_view> columnas = {};
+    std::span<const std::string_view> filas = {};
 };
 
 // The groups every element window has besides its own: first its identity (title and level)

@@ -111,6 +111,25 @@ const Control* MarcoNombrado(const Form& form, std::string_view nombre)
     return form.Find(std::string(nombre));
 }
 
+// The cells of a grid group, row by row: the one control each names, or none.
+void Rejilla(const Form& form, const GrupoDef& def, GrupoCampos& g, std::set<const Control*>& tomados)
+{
+    g.cabeceras.assign(def.columnas.begin(), def.columnas.end());
+    g.rotulosFilas.assign(def.filas.begin(), def.filas.end());
+    for (std::string_view nombre : def.controles) {
+        Control* c = nullptr;
+        if (!nombre.empty()) {
+            const std::vector<Control*> v = Nombrados(form, nombre, tomados);
+            c = v.empty() ? nullptr : v.front();
+        }
+        g.celdas.push_back(c);
+        if (c) {
+            tomados.insert(c);
+            g.miembros.push_back(c);
+        }
+    }
+}
+
 // The declared groups with the controls they take.
 std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> defs, std::set<const Control*>& tomados)
 {
@@ -123,6 +142,12 @@ std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> 
         for (const std::string_view nombre : {def.marco, def.dentro})
             if (const Control* m = MarcoNombrado(form, nombre))
                 g.marcos.push_back(m);
+        if (!def.columnas.empty()) {
+            Rejilla(form, def, g, tomados);
+            if (!g.miembros.empty())
+                out.push_back(std::move(g));
+            continue;
+        }
         std::vector<std::vector<Control*>> entradas;
         for (std::string_view nombre : def.controles) {
             entradas.push_back(Nombrados(form, nombre, tomados));
@@ -165,6 +190,8 @@ std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g)
 
 int AltoDeGrupo(const GrupoCampos& g)
 {
+    if (!g.cabeceras.empty())
+        return static_cast<int>(g.rotulosFilas.size()) + 2;
     int filas = 0;
     const Control* anterior = nullptr;
     for (const Control* c : g.miembros) {

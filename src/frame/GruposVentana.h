@@ -26,6 +26,11 @@ struct GrupoCampos {
     // `etiquetas`, with the labels that stand beside it (its symbol, its unit) here.
     bool tabla = false;
     std::map<const Control*, std::vector<Control*>> junto = {};
+    // A grid (GrupoDef::columnas): the headings, the rows' names and the cells row by row, a
+    // null cell being an empty one. `miembros` holds the cells' controls as well.
+    std::vector<std::string> cabeceras = {};
+    std::vector<std::string> rotulosFilas = {};
+    std::vector<Control*> celdas = {};
 };
 // The data fields of an element form grouped for display: the groups its definition declares
 // first, then by kind and name: the element's identity, materials,

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <map>
 
 #include "application/Aplicacion.h"
@@ -79,6 +81,39 @@ TEST(Agrupacion, IdentityFirstResultsLastArraysInIndexOrder)
         const auto todos = form->Controls();
         EXPECT_EQ(vistos, static_cast<int>(std::count_if(todos.begin(), todos.end(),
                                                           [&](const Control* c) { return c->Name() == caso.array; })));
+    }
+}
+
+
+// The spans editor of the beams stands as a grid: the cells under their headings row by row,
+// empty where a row has no value of that column, and each field in one cell only.
+TEST(Agrupacion, SpansEditorIsAGridOfLengthsAndLoads)
+{
+    for (const char* nombre : {"frmVigHorm", "frmVigRegHorm"}) {
+        SCOPED_TRACE(nombre);
+        ObraConIdioma obra;
+        auto form = CreaForm(obra.d(), nombre);
+        const std::vector<GrupoCampos> grupos = AgrupaCampos(*form);
+        auto it = std::find_if(grupos.begin(), grupos.end(), [](const GrupoCampos& g) { return !g.cabeceras.empty(); });
+        ASSERT_NE(it, grupos.end());
+        EXPECT_EQ(it->cabeceras, (std::vector<std::string>{"", "Longitud (m)", "Carga"}));
+        ASSERT_EQ(it->celdas.size(), it->rotulosFilas.size() * (it->cabeceras.size() - 1));
+        auto celda = [&](size_t fila, size_t col) {
+            const Control* c = it->celdas[fila * 2 + col];
+            return c ? c->Name() + "(" + std::to_string(c->Index()) + ")" : std::string("-");
+        };
+        const std::vector<std::array<std::string, 3>> esperadas = {
+            {"Vano entre apoyos", "TxCota(1)", "-"}, {"Tramo 1", "TxCota(2)", "TxtQ(1)"},
+            {"Tramo 2", "TxCota(3)", "TxtQ(2)"},     {"Tramo 3", "-", "TxtQ(3)"},
+            {"P a 1/3 del vano", "-", "TxtQ(5)"},    {"P a 2/3 del vano", "-", "TxtQ(6)"},
+        };
+        ASSERT_EQ(it->rotulosFilas.size(), esperadas.size());
+        for (size_t f = 0; f < esperadas.size(); ++f) {
+            EXPECT_EQ(it->rotulosFilas[f], esperadas[f][0]);
+            EXPECT_EQ(celda(f, 0), esperadas[f][1]) << esperadas[f][0];
+            EXPECT_EQ(celda(f, 1), esperadas[f][2]) << esperadas[f][0];
+        }
+        EXPECT_EQ(it->miembros.size(), 8u);
     }
 }
 
