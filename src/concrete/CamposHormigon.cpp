@@ -124,20 +124,34 @@ constexpr GrupoDef kGruposVigHorm[] = {
 // The beam of a regular frame: the plan of the frame with its bays and the nine beams to choose
 // beside the beam as frmVigHorm draws it, its data, loads and reinforcement, and the frame's
 // forces.
-constexpr std::string_view kVigRegEsquema[] = {"Picture2", "cmbTrPort", "cmbTrForj", "txtCotHz", "txtCotVert"};
+constexpr std::string_view kVigRegEsquema[] = {"Picture2"};
+// The frame's bays along it and the slab's across it, with the count of each.
+constexpr std::string_view kVigRegLuces[] = {"cmbTrPort",   "cmbTrForj",     "txtCotHz(0)", "txtCotVert(0)",
+                                             "txtCotHz(1)", "txtCotVert(1)", "txtCotHz(2)", "txtCotVert(2)",
+                                             "txtCotHz(3)", "txtCotVert(3)", "txtCotHz(4)", "",
+                                             "txtCotHz(5)", ""};
+constexpr std::string_view kVigRegLucesColumnas[] = {"", "Pórtico", "Forjado"};
+constexpr std::string_view kVigRegLucesFilas[] = {"Nº de tramos", "Voladizo (m)", "Vano 1 (m)", "Vano 2 (m)",
+                                                  "Vano 3 (m)",   "Vano 4 (m)",   "Voladizo derecho (m)"};
 constexpr std::string_view kVigRegPortico[] = {"optViga"};
 constexpr std::string_view kVigRegDatos[] = {"CmbAmbGral", "CmbAmbEspec", "cmbPart", "CmbPlanta", "TxRedistr"};
 constexpr std::string_view kVigRegCerramiento[] = {"TxtQ(7)"};
-constexpr std::string_view kVigRegEsfuerzos[] = {"txtMom", "txtCor", "txtGiro"};
+// The frame's forces at the beam's ends and mid-span.
+constexpr std::string_view kVigRegEsfuerzos[] = {"txtMom(0)", "txtCor(0)", "txtGiro(0)", "txtMom(1)", "",
+                                                 "",          "txtMom(2)", "txtCor(1)",  "txtGiro(1)"};
+constexpr std::string_view kVigRegEsfuerzosColumnas[] = {"", "Momento", "Cortante", "Giro"};
+constexpr std::string_view kVigRegEsfuerzosFilas[] = {"Apoyo izquierdo", "Centro del vano", "Apoyo derecho"};
 constexpr GrupoDef kGruposVigRegHorm[] = {
-    {"FrEsquema", 0, kVigRegEsquema, {}, 0},          {"FrPortico", 0, kVigRegPortico, {}, 0},
+    {"FrEsquema", 0, kVigRegEsquema, {}, 0},
+    {"FrLucesPortico", 0, kVigRegLuces, {}, 0, false, kVigRegLucesColumnas, kVigRegLucesFilas},
+    {"FrPortico", 0, kVigRegPortico, {}, 0},
     {"FrViga", 0, kVigHormViga, {}, 0},               {"FrTramosViga", 0, kVigHormTramos, {}, 0, false, kVigHormTramosColumnas, kVigHormTramosFilas},
     {"FrSeccionViga", 0, kVigHormSeccion, {}, 0},     {"FrCercosViga", 0, kVigHormCercos, {}, 0},
     {"FrIzquierdaViga", 0, kVigHormIzquierda, {}, 1}, {"FrDerechaViga", 0, kVigHormDerecha, {}, 1},
     {"FrDatosViga", 0, kVigRegDatos, {}, 1},          {"FrCerramiento", 0, kVigRegCerramiento, {}, 1},
     {"UCframeT", 0, kVigHormTransversal, {}, 1},      {"FrArmadoViga", 0, kVigHormBarras, {}, 2},
     {"FrCapasIzqViga", 0, kVigHormCapasIzq, {}, 2},   {"FrCapasDerViga", 0, kVigHormCapasDer, {}, 2},
-    {"FrCapasInfViga", 0, kVigHormCapasInf, {}, 2},   {"FrEsfuerzos", 0, kVigRegEsfuerzos, {}, 2},
+    {"FrCapasInfViga", 0, kVigHormCapasInf, {}, 2},   {"FrEsfuerzos", 0, kVigRegEsfuerzos, {}, 1, false, kVigRegEsfuerzosColumnas, kVigRegEsfuerzosFilas},
 };
 
 // The deep beam: the beam drawn with its spans and stretches, its loads, the beams beside it and
@@ -563,6 +577,7 @@ std::span<const TablaForm> TablasHormigon()
              {kCb, "cmbTrPort", -1, "Nº tramos pórtico"},
              {kCb, "cmbTrForj", -1, "Nº tramos forjado"},
              {kFr, "FrEsquema", -1, "Esquema en planta"},
+             {kFr, "FrLucesPortico", -1, "Luces en planta"},
              {kPc, "Picture2", -1, ""},
              {kFr, "FrPortico", -1, "Pórtico"},
              {kFr, "FrCerramiento", -1, "Cerramiento perimetral"},

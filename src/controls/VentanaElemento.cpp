@@ -348,7 +348,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     int fila = 0, col = 0;
     if (!g.cabeceras.empty()) {
         // A grid: the headings, then a row a name with its values under their columns. A row's
-        // name shows while its last cell does (a stretch's load shows while the stretch is used).
+        // name shows while any of its cells does.
         for (size_t k = 0; k < g.cabeceras.size(); ++k) {
             QLabel* cabecera = Etiqueta(g.cabeceras[k]);
             cabecera->setStyleSheet("font-weight: bold;");
@@ -357,13 +357,13 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
         const size_t porFila = g.cabeceras.size() - 1;
         for (size_t r = 0; r < g.rotulosFilas.size(); ++r) {
             const int f = static_cast<int>(r) + 1;
-            const Control* ultima = nullptr;
+            std::vector<const Control*> celdasFila;
             for (size_t k = 0; k < porFila; ++k) {
                 const size_t i = r * porFila + k;
                 Control* c = i < g.celdas.size() ? g.celdas[i] : nullptr;
                 if (!c)
                     continue;
-                ultima = c;
+                celdasFila.push_back(c);
                 QWidget* w = WidgetDe(*c);
                 if (auto* linea = qobject_cast<QLineEdit*>(w))
                     linea->setMaximumWidth(90);
@@ -371,8 +371,8 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
             }
             QLabel* rotulo = Etiqueta(g.rotulosFilas[r]);
             rejilla->addWidget(rotulo, f, 0);
-            if (ultima)
-                siguen_.emplace_back(rotulo, ultima);
+            if (!celdasFila.empty())
+                filas_.emplace_back(rotulo, std::move(celdasFila));
         }
         rejilla->setColumnStretch(static_cast<int>(g.cabeceras.size()), 1);
         return grupo;
@@ -528,6 +528,8 @@ void VentanaElemento::Actualiza()
     }
     for (auto& [w, c] : siguen_)
         w->setVisible(c->Visible());
+    for (auto& [w, celdas] : filas_)
+        w->setVisible(std::any_of(celdas.begin(), celdas.end(), [](const Control* c) { return c->Visible(); }));
     const Control* rtb = form_->Find("RichTextBox1");
     const bool resultado = rtb && rtb->Visible() && pila_->count() > 1;
     pila_->setCurrentIndex(resultado ? 1 : 0);

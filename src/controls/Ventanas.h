@@ -74,6 +74,8 @@ private:
     // Widgets that show while their group's frames, or their control, show.
     std::vector<std::pair<QWidget*, GrupoCampos>> grupos_;
     std::vector<std::pair<QWidget*, const Control*>> siguen_;
+    // The names of a grid's rows, shown while any cell of the row shows.
+    std::vector<std::pair<QWidget*, std::vector<const Control*>>> filas_;
 };
 
 // The building's general data, with the section drawn from the form's layout.

@@ -94,7 +94,10 @@ TEST(Agrupacion, SpansEditorIsAGridOfLengthsAndLoads)
         ObraConIdioma obra;
         auto form = CreaForm(obra.d(), nombre);
         const std::vector<GrupoCampos> grupos = AgrupaCampos(*form);
-        auto it = std::find_if(grupos.begin(), grupos.end(), [](const GrupoCampos& g) { return !g.cabeceras.empty(); });
+        auto it = std::find_if(grupos.begin(), grupos.end(), [](const GrupoCampos& g) {
+            return !g.cabeceras.empty() &&
+                   std::any_of(g.miembros.begin(), g.miembros.end(), [](const Control* c) { return c->Name() == "TxCota"; });
+        });
         ASSERT_NE(it, grupos.end());
         EXPECT_EQ(it->cabeceras, (std::vector<std::string>{"", "Longitud (m)", "Carga"}));
         ASSERT_EQ(it->celdas.size(), it->rotulosFilas.size() * (it->cabeceras.size() - 1));
