@@ -156,17 +156,25 @@ constexpr GrupoDef kGruposVigRegHorm[] = {
 
 // The deep beam: the beam drawn with its spans and stretches, its loads, the beams beside it and
 // its columns, then its bars and meshes.
-constexpr std::string_view kVigParedViga[] = {"PctViga",   "CmTramos",  "TxCota(1)", "TxCota(2)", "TxCota(3)",
-                                              "TextDviga", "TxtPil(0)", "TxtPil(1)", "ChPilIzq",  "ChPilDer"};
+constexpr std::string_view kVigParedViga[] = {"PctViga", "CmTramos", "TextDviga"};
+constexpr std::string_view kVigParedApoyos[] = {"ChPilIzq", "TxtPil(0)", "ChPilDer", "TxtPil(1)"};
 constexpr std::string_view kVigParedContiguas[] = {"ChVigIzq", "TxCota(0)", "ChVigDer", "TxCota(4)"};
-constexpr std::string_view kVigParedCargas[] = {"TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "Check1"};
+// The span and its stretches with the load of each, as the beams' spans editor stands.
+constexpr std::string_view kVigParedTramos[] = {"TxCota(1)", "", "TxCota(2)", "TxtQ(1)", "TxCota(3)", "TxtQ(2)", "", "TxtQ(3)"};
+constexpr std::string_view kVigParedTramosFilas[] = {"Vano entre apoyos", "Tramo 1", "Tramo 2", "Tramo 3"};
+constexpr std::string_view kVigParedCargas[] = {"Check1"};
 constexpr std::string_view kVigParedPuntuales[] = {"ChkPuntual", "TxtQ(0)", "TxtQ(4)"};
 constexpr std::string_view kVigParedDatos[] = {"txtDat2"};
 constexpr std::string_view kVigParedArmado[] = {"UCArVigIzq", "UCArVigCen", "UCArVigder", "UCMallazo1", "UCMallazo2"};
 constexpr GrupoDef kGruposVigPared[] = {
-    {"FrViga", 0, kVigParedViga, {}, 0},       {"FrContiguas", 0, kVigParedContiguas, {}, 0},
-    {"FrCargasViga", 0, kVigParedCargas, {}, 1}, {"FrPuntualesViga", 0, kVigParedPuntuales, {}, 1},
-    {"FrDatosViga", 0, kVigParedDatos, {}, 1},   {"FrArmadoViga", 0, kVigParedArmado, {}, 2},
+    {"FrViga", 0, kVigParedViga, {}, 0},
+    {"FrTramosViga", 0, kVigParedTramos, {}, 0, false, kVigHormTramosColumnas, kVigParedTramosFilas},
+    {"FrCargasViga", 0, kVigParedCargas, {}, 0},
+    {"FrApoyosViga", 0, kVigParedApoyos, {}, 1},
+    {"FrContiguas", 0, kVigParedContiguas, {}, 1},
+    {"FrPuntualesViga", 0, kVigParedPuntuales, {}, 1},
+    {"FrDatosViga", 0, kVigParedDatos, {}, 1},
+    {"FrArmadoViga", 0, kVigParedArmado, {}, 2},
 };
 
 // The stored fields of each form, in the order of its record.
@@ -510,15 +518,16 @@ constexpr GrupoDef kGruposAbaco[] = {
 // the beam's moment and shear; the bars and what they came to.
 constexpr std::string_view kMensulaTipo[] = {"OpTipo(0)", "OpTipo(1)", "OpTipo(2)", "OpTipo(3)"};
 constexpr std::string_view kMensulaHormigonado[] = {"Hormig", "TextCtg"};
-constexpr std::string_view kMensulaCotas[] = {"PictureM",  "PictureV",  "TxCota(0)", "TxCota(1)",
-                                              "TxCota(2)", "TxCota(3)", "TxCota(4)", "TxCota(5)"};
+constexpr std::string_view kMensulaCotas[] = {"PictureM", "PictureV"};
+constexpr std::string_view kMensulaDimensiones[] = {"TxCota(0)", "TxCota(1)", "TxCota(2)", "TxCota(3)", "TxCota(4)", "TxCota(5)"};
 constexpr std::string_view kMensulaCargas[] = {"TxtQ(0)", "TxtQ(1)", "TxtQ(2)", "TxtQ(3)", "TxCota(6)", "txtMom", "txtCort"};
 constexpr std::string_view kMensulaArmado[] = {"UCArmPrinc", "UCArmCercos", "LbColgar2", "UCArmColgar"};
 constexpr std::string_view kMensulaArmaduras[] = {"TxArmado", "TxCercos", "txCuelgue"};
 constexpr GrupoDef kGruposMensCorta[] = {
     {"", kMsgGrupoElemento, kCamposIdentidad, "Frm1", 0}, {"", kMsgGrupoMateriales, kCamposMateriales, "Frm1", 0},
     {"FrTipologia", 0, kMensulaTipo, "Frm1", 0},        {"FrHormigonado", 0, kMensulaHormigonado, "Frm1", 0},
-    {"FrCotas", 0, kMensulaCotas, "Frm1", 1},           {"FrCargas", 0, kMensulaCargas, "Frm1", 1},
+    {"FrCotas", 0, kMensulaCotas, "Frm1", 1},           {"FrDimMensula", 0, kMensulaDimensiones, "Frm1", 1},
+    {"FrCargas", 0, kMensulaCargas, "Frm1", 1},
     {"FrArmado", 0, kMensulaArmado, "Frm1", 2},         {"FrArmaduras", 0, kMensulaArmaduras, "", 2},
     {"UCframe2", 0, kCamposResultados, "", 2},
 };
@@ -835,6 +844,7 @@ std::span<const TablaForm> TablasHormigon()
              {kPc, "PictureM", -1, ""},
              {kPc, "PictureV", -1, ""},
              {kFr, "FrCotas", -1, "Cotas y separación barras en cm. Cargas mayoradas"},
+             {kFr, "FrDimMensula", -1, "Dimensiones (cm)"},
              {kTx, "TxCota", 0, "Canto en el arranque (cm)"},
              {kTx, "TxCota", 1, "Canto en el extremo (cm)"},
              {kTx, "TxCota", 2, "Distancia del apoyo al pilar (cm)"},
@@ -877,7 +887,9 @@ std::span<const TablaForm> TablasHormigon()
          Visibles({EtiquetasContinuidad, EtiquetasPilaresViga}, {
              {kFr, "FrViga", -1, "Viga (longitudes en metros)"},
              {kFr, "FrContiguas", -1, "Luz viga contigua"},
-             {kFr, "FrCargasViga", -1, "Cargas"},
+             {kFr, "FrTramosViga", -1, "Tramos y cargas totales (con.+sobr.) sin mayorar"},
+             {kFr, "FrCargasViga", -1, "Cara cargada"},
+             {kFr, "FrApoyosViga", -1, "Apoyos"},
              {kFr, "FrPuntualesViga", -1, "Cargas puntuales"},
              {kFr, "FrDatosViga", -1, "Flecha"},
              {kFr, "FrArmadoViga", -1, "Armado principal total y reparto por cara"},
