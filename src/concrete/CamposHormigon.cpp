@@ -51,6 +51,7 @@ const std::vector<ControlVisible>& EtiquetasDibujoVigaHormigon()
         {kFr, "FrCapasInfViga", -1, "Barras inferiores adicionales"},
         {kFr, "FrCercosViga", -1, "Cercos (cercos de 2 ramas)"},
         {kFr, "UCframeT", -1, "Estudiar flexión transversal"},
+        {kLb, "LbFlexTrans", -1, "Cercos insuficientes a flexión transversal"},
         {kPc, "PctViga", -1, ""},
         {kPc, "PctSeccion", -1, ""},
         {kPc, "PictIzq", -1, ""},

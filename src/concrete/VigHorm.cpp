@@ -114,6 +114,18 @@ void VigHorm::CargaPropia()
         PresentaApoyo(lado);
     }
     PresentaCapas();
+    OcultaAvisos();
+}
+
+void VigHorm::OcultaAvisos()
+{
+    // The check of this program gives no result that raises them: they stay hidden, and their
+    // texts are kept as the record holds them.
+    for (int i = 0; i < 2; ++i)
+        if (Control* c = Find("txtCort", i))
+            c->SetVisible(false);
+    if (Control* c = Find("LbFlexTrans"))
+        c->SetVisible(false);
 }
 
 void VigHorm::List1_Lee()
@@ -246,6 +258,7 @@ DatosComprobacion VigHorm::LeeDatosComprobacion()
     // Everything is gathered first: a failure leaves the last figures, and the record, as they were.
     variables_ = ReuneVariables(datos);
     calculado_ = true;
+    OcultaAvisos();
     return datos;
 }
 

@@ -102,6 +102,9 @@ private:
     void PresentaVoladizo(int lado);
     void PresentaApoyo(int lado);
     void PresentaCapas();
+    // The warnings of a check (oblique compression at either end, stirrups short for the
+    // transverse bending) show only where a check's result says so.
+    void OcultaAvisos();
 
     VariablesViga ReuneVariables(const DatosComprobacion& datos);
     // The bars drawn in the beam picture.

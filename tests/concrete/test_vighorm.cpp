@@ -18,6 +18,7 @@
 #include <string>
 
 #include "application/Aplicacion.h"
+#include "base/FileIo.h"
 #include "concrete/VigHorm.h"
 #include "frame/Formularios.h"
 #include "support/TestSupport.h"
@@ -319,6 +320,26 @@ TEST_F(VigaHormigon, AColumnOfDepthZeroLeavesTheBeamOnABearing)
     f->At("ChPilDer").SetCheckValue(0);
     EXPECT_TRUE(f->At("ImgApo", 1).Visible());
     EXPECT_EQ(apoyos(), 1);
+}
+
+// The warnings of the check stay hidden, on opening and after "CONVERTIR", since the check gives
+// no result that raises them; their stored texts go back to the record as they were read.
+TEST_F(VigaHormigon, CheckWarningsStayHiddenAndKeepTheirTexts)
+{
+    auto f = Carga();
+    f->At("txtCort", 1).SetText("Compresión oblicua (texto del registro)");
+    for (bool calculado : {false, true}) {
+        SCOPED_TRACE(calculado ? "after the check" : "on opening");
+        if (calculado)
+            f->At("CmdCalcular").Click();
+        EXPECT_FALSE(f->At("txtCort", 0).Visible());
+        EXPECT_FALSE(f->At("txtCort", 1).Visible());
+        EXPECT_FALSE(f->At("LbFlexTrans").Visible());
+        EXPECT_EQ(f->At("txtCort", 1).Text(), "Compresión oblicua (texto del registro)");
+    }
+    const std::vector<std::string> registros = FilesEndingWith(obra.path(), ".~HJ");
+    ASSERT_EQ(registros.size(), 1u);
+    EXPECT_NE(ReadBytes(obra.path() + "/" + registros[0]).find("(texto del registro)"), std::string::npos);
 }
 
 }  // namespace
