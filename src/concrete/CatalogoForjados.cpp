@@ -261,15 +261,10 @@ bool ReemplazaConPapelera(Declaraciones& d, const std::string& path, const std::
     }
     std::error_code ec;
     Cede(d);
-    // A copy of the old file goes to the recycle bin under the file's own name, from a folder of
-    // its own beside it, while the old file stays where it is until the rename.
+    // A copy of the old file goes to the recycle bin, recorded as the file itself, while the old
+    // file stays where it is until the rename.
     if (fs::exists(path, ec)) {
-        const fs::path carpeta = fs::path(path).parent_path() / (".vardena-" + RandomHex(12) + ".papelera");
-        const fs::path copia = carpeta / fs::path(path).filename();
-        bool enviada = fs::create_directory(carpeta, ec) && fs::copy_file(path, copia, ec) && d.platform.recycleBin &&
-                       d.platform.recycleBin->APapelera(copia.string());
-        fs::remove_all(carpeta, ec);
-        if (!enviada) {
+        if (!d.platform.recycleBin || !d.platform.recycleBin->CopiaAPapelera(path)) {
             fs::remove(tmp, ec);
             Caja(d, d.Msg(kMsgNoSeBorro) + ": " + path);
             return false;

@@ -61,6 +61,11 @@ public:
     virtual ~RecycleBin() = default;
     // Moves the file (or folder) to the recycle bin; false when it could not.
     virtual bool APapelera(const std::string& path) = 0;
+    // Puts a copy of the file in the recycle bin and leaves the file where it is, so that the bin
+    // keeps the version a replacement is about to overwrite; false when it could not. A bin that
+    // can record where an entry came from records the file's own place, so that restoring the
+    // copy puts it back there.
+    virtual bool CopiaAPapelera(const std::string& path);
 };
 
 // Opening documents and mail through the desktop.

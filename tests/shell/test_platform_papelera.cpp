@@ -51,6 +51,36 @@ TEST_F(TrashFixture, FileGoesToTheTrashAndComesBackToItsPlace)
     EXPECT_FALSE(fs::exists(Trash() + "/info/Viga 1.~VH.trashinfo"));
 }
 
+// A copy of a file goes to the trash as the file itself: the file stays, the trash holds the
+// version of the moment, and restoring it (once the file is gone) puts it back in its place.
+TEST_F(TrashFixture, CopyGoesToTheTrashAsTheFileItselfAndTheFileStays)
+{
+    const std::string file = work / "ForjArma.txt";
+    WriteBytes(file, "version 1\r\n");
+    PapeleraLinux bin;
+    ASSERT_TRUE(bin.CopiaAPapelera(file));
+    EXPECT_EQ(ReadBytes(file), "version 1\r\n");
+    EXPECT_EQ(ReadBytes(Trash() + "/files/ForjArma.txt"), "version 1\r\n");
+    const auto list = ListaPapelera();
+    ASSERT_EQ(list.size(), 1u);
+    EXPECT_EQ(list[0].rutaOriginal, file);
+    // Nothing is left beside the file.
+    EXPECT_EQ(std::distance(fs::directory_iterator(work.path()), fs::directory_iterator()), 1);
+
+    WriteBytes(file, "version 2\r\n");
+    ASSERT_TRUE(bin.CopiaAPapelera(file));
+    EXPECT_EQ(ReadBytes(Trash() + "/files/ForjArma.2.txt"), "version 2\r\n");
+
+    fs::remove(file);
+    std::string why;
+    ASSERT_TRUE(RestauraDePapelera("ForjArma.txt", &why)) << why;
+    EXPECT_EQ(ReadBytes(file), "version 1\r\n");
+
+    // A file that is not there gives no copy and leaves nothing behind.
+    EXPECT_FALSE(bin.CopiaAPapelera(work / "Viguetas"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(work.path()), fs::directory_iterator()), 1);
+}
+
 TEST_F(TrashFixture, NamesAlreadyInTheTrashGetANumber)
 {
     struct Row {

@@ -125,10 +125,10 @@ std::optional<std::string> ReserveName(const fs::path& trash, const std::string&
     return std::nullopt;
 }
 
-EnvioPapelera IntoTrash(const fs::path& src, const fs::path& trash, const std::string& pathText)
+EnvioPapelera IntoTrash(const fs::path& src, const fs::path& trash, const std::string& pathText, const std::string& nombre)
 {
     EnvioPapelera r;
-    auto name = ReserveName(trash, src.filename().string());
+    auto name = ReserveName(trash, nombre);
     if (!name) {
         r.error = Why(trash / "info", "no name can be reserved in the trash");
         return r;
@@ -179,7 +179,7 @@ std::optional<fs::path> VolumeTrash(const fs::path& top)
 }
 
 // The last resort: a ".papelera" folder beside the file.
-EnvioPapelera IntoLocalBin(const fs::path& src)
+EnvioPapelera IntoLocalBin(const fs::path& src, const std::string& nombre)
 {
     EnvioPapelera r;
     const fs::path bin = src.parent_path() / ".papelera";
@@ -188,7 +188,7 @@ EnvioPapelera IntoLocalBin(const fs::path& src)
         return r;
     }
     for (int n = 1; n < kMaxNumbered; ++n) {
-        const fs::path dest = bin / NumberedName(src.filename().string(), n);
+        const fs::path dest = bin / NumberedName(nombre, n);
         if (Exists(dest))
             continue;
         r.ok = MueveArchivo(src.string(), dest.string(), &r.error);
@@ -308,7 +308,7 @@ bool MueveArchivo(const std::string& from, const std::string& to, std::string* e
     return true;
 }
 
-EnvioPapelera EnviaAPapelera(const std::string& path)
+EnvioPapelera EnviaAPapelera(const std::string& path, const std::string& comoRuta)
 {
     EnvioPapelera r;
     if (path.empty()) {
@@ -336,24 +336,27 @@ EnvioPapelera EnviaAPapelera(const std::string& path)
     // Each try either moves the file or leaves it where it was; only a copy whose original could
     // not be wholly removed (destino set, not ok) ends the tries.
     std::string why;
+    // The place the entry is recorded as coming from: the file's own, or the one it stands for.
+    const fs::path como = comoRuta.empty() ? src : fs::absolute(comoRuta).lexically_normal();
+    const std::string nombre = como.filename().string();
     auto tryTrash = [&](const fs::path& trash, const std::string& pathText) {
-        r = IntoTrash(src, trash, pathText);
+        r = IntoTrash(src, trash, pathText, nombre);
         if (!r.ok)
             why += (why.empty() ? "" : "; ") + r.error;
         return r.ok || !r.destino.empty();
     };
     const bool homeUsable = UsableTrash(home);
     if (st.st_dev == DeviceOf(home)) {
-        if (homeUsable && tryTrash(home, src.string()))
+        if (homeUsable && tryTrash(home, como.string()))
             return r;
     } else {
         const fs::path top = TopDir(src, st.st_dev);
-        if (auto vt = VolumeTrash(top); vt && tryTrash(*vt, src.lexically_relative(top).string()))
+        if (auto vt = VolumeTrash(top); vt && tryTrash(*vt, como.lexically_relative(top).string()))
             return r;
-        if (homeUsable && tryTrash(home, src.string()))
+        if (homeUsable && tryTrash(home, como.string()))
             return r;
     }
-    r = IntoLocalBin(src);
+    r = IntoLocalBin(src, nombre);
     if (!r.ok && !why.empty())
         r.error = why + "; " + r.error;
     return r;
@@ -416,5 +419,20 @@ bool RestauraDePapelera(const std::string& nombre, std::string* error, const std
 }
 
 bool PapeleraLinux::APapelera(const std::string& path) { return EnviaAPapelera(path).ok; }
+
+bool PapeleraLinux::CopiaAPapelera(const std::string& path)
+{
+    // The copy stands beside the file, on its volume, hidden and under a name of its own; it goes
+    // to the trash as the file itself, or is taken away again.
+    const fs::path original = fs::absolute(path).lexically_normal();
+    const fs::path copia = original.parent_path() / ("." + original.filename().string() + ".vardena-" + RandomHex(8));
+    std::error_code ec;
+    if (!fs::copy_file(original, copia, ec))
+        return false;
+    if (EnviaAPapelera(copia.string(), original.string()).ok)
+        return true;
+    fs::remove(copia, ec);
+    return false;
+}
 
 }  // namespace vardena

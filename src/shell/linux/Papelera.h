@@ -23,8 +23,10 @@ struct EnvioPapelera {
     std::string error;    // why it failed, naming the file
 };
 
-// Moves `path` (a file, a folder or a link) to the trash, as told above.
-EnvioPapelera EnviaAPapelera(const std::string& path);
+// Moves `path` (a file, a folder or a link) to the trash, as told above. With `comoRuta`, the
+// entry is named and recorded as coming from that path instead: a copy made beside a file goes
+// in as the file itself.
+EnvioPapelera EnviaAPapelera(const std::string& path, const std::string& comoRuta = {});
 
 // The user's home trash folder (the one holding files/ and info/).
 std::string CarpetaPapelera();
@@ -57,6 +59,8 @@ bool MueveArchivo(const std::string& from, const std::string& to, std::string* e
 class PapeleraLinux : public RecycleBin {
 public:
     bool APapelera(const std::string& path) override;
+    // A copy made beside the file goes to the trash recorded as the file itself.
+    bool CopiaAPapelera(const std::string& path) override;
 };
 
 }  // namespace vardena
