@@ -11,8 +11,10 @@ namespace vardena {
 
 // A backfill: its density, kg/m3 (TxtDensidad), and its friction angle, degrees (TxtAngulo).
 // The rows follow the list of CmbTerr: gravel, sand, brick rubble, topsoil, embankment fill and
-// rockfill. The figures are the apparent unit weights and internal friction angles of fills
-// usual in Spanish practice for earth pressure on walls.
+// rockfill. The figures are apparent unit weights and internal friction angles of fills as
+// Spanish practice takes them for earth pressure on walls (compare the fill materials of the
+// weights and friction angles annex of CTE DB SE-AE): the coarse fills, gravel and rockfill,
+// the steepest at 40 degrees, brick rubble the lightest, topsoil the weakest.
 struct RellenoCatalogo {
     std::string_view densidad, angulo;
 };
