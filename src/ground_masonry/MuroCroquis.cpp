@@ -11,13 +11,13 @@
 
 #include "base/Texto.h"
 #include "ground_masonry/MuroTerreno.h"
+#include "works/Subrut.h"
 
 namespace vardena {
 namespace {
 
 using P = PapelCroquis;
 
-constexpr double kPi = 3.14159265358979;
 // The longer side of the drawing, twips, and the margin round it.
 constexpr double kLado = 2400;
 constexpr int kMargen = 150;

@@ -6,14 +6,17 @@
 #include "base/Texto.h"
 #include "ground_masonry/Rellenos.h"
 #include "works/Declaraciones.h"
+#include "works/Subrut.h"
 
 namespace vardena {
 namespace {
 
 using P = PapelCroquis;
 
-constexpr double kPi = 3.14159265358979;
 constexpr double kAnguloRecto = 90;
+// The warning of an angle with no slope to draw, and its title.
+constexpr int kMsgAnguloTalud = 1580;
+constexpr int kMsgAtencion = 9;
 // The longer side of the drawing and its margin, twips.
 constexpr double kLado = 2400;
 constexpr int kMargen = 150;
@@ -38,8 +41,10 @@ std::optional<double> RecorridoTalud(double alto, double grados)
 Talud::Talud(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabla)
 {
     At("CmbTalud").onClick = [this](Control&) { Evento("CmbTalud_Click", [this] { CmbTalud_Click(); }); };
-    for (Control* c : Members("TxCotaTalud"))
-        c->onChange = [this](Control&) { Evento("TxCotaTalud_Change", [this] { TxCotaTalud_Change(); }); };
+    for (Control* c : Members("TxCotaTalud")) {
+        const int i = c->Index();
+        c->onChange = [this, i](Control&) { Evento("TxCotaTalud_Change", [this, i] { TxCotaTalud_Change(i); }); };
+    }
     At("chkEstrato").onClick = [this](Control&) { Evento("chkEstrato_Click", [this] { chkEstrato_Click(); }); };
     At("List1").onClick = [this](Control&) { List1_Lee(); };
 }
@@ -55,7 +60,7 @@ void Talud::CargaPropia() { Presenta(); }
 void Talud::Presenta()
 {
     chkEstrato_Click();
-    TxCotaTalud_Change();
+    TxCotaTalud_Change(kAlturaTalud);
 }
 
 void Talud::CmbTalud_Click()
@@ -63,11 +68,19 @@ void Talud::CmbTalud_Click()
     AplicaTalud(*this, At("CmbTalud").ListIndex(), kCohesionTalud, decl().Unidades);
 }
 
-void Talud::TxCotaTalud_Change()
+void Talud::TxCotaTalud_Change(int index)
 {
-    const double grados = CotaTalud(*this, "TxCotaTalud", kAnguloTalud);
-    if (RecorridoTalud(1, grados))
+    const Control& campo = At("TxCotaTalud", kAnguloTalud);
+    const double grados = ValComaCopy(campo.Text());
+    if (RecorridoTalud(1, grados)) {
         angulo_ = grados;
+        return;
+    }
+    // Only a change of the angle itself is told of; the value stays as typed.
+    if (index == kAnguloTalud) {
+        const Declaraciones& d = decl();
+        d.ui.MsgBox(Mensaje(d, kMsgAnguloTalud, {campo.Text()}), mb::Exclamation, d.Msg(kMsgAtencion));
+    }
 }
 
 void Talud::chkEstrato_Click()

@@ -28,9 +28,10 @@ public:
 
     // Catalogue rows 1 to 10 write density, cohesion and friction angle.
     void CmbTalud_Click();
-    // The angle tested against 0 and 90: the sketch takes the slope of an angle between them and
-    // keeps the last one drawn for any other.
-    void TxCotaTalud_Change();
+    // The angle tested against 0 and 90: the sketch takes the slope of an angle above 0 and up to
+    // 90 and keeps the last one drawn for any other, which a change of the angle (`index` 2)
+    // warns of. The value typed stays.
+    void TxCotaTalud_Change(int index);
     // The stratum's thickness is typed only with the stratum.
     void chkEstrato_Click();
 

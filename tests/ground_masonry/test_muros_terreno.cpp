@@ -300,13 +300,21 @@ TEST_F(GroundWalls, SlopeSketchKeepsTheLastAngleThatCanBeDrawn)
         const char* angulo;
         double dibujado;
         double pendiente;  // 1 / tan of the angle drawn
+        bool aviso;        // an angle with no slope to draw is told of
     };
     const Paso pasos[] = {
-        {"60", 60, 0.57735}, {"0", 60, 0.57735}, {"", 60, 0.57735}, {"30", 30, 1.73205},
-        {"95", 30, 1.73205}, {"90", 90, 0.0},    {"45", 45, 1.0},
+        {"60", 60, 0.57735, false}, {"0", 60, 0.57735, true},    {"", 60, 0.57735, true},
+        {"30", 30, 1.73205, false}, {"95", 30, 1.73205, true},   {"-10", 30, 1.73205, true},
+        {"90", 90, 0.0, false},     {"45", 45, 1.0, false},
     };
     for (const Paso& p : pasos) {
+        app.ui.boxes.clear();
         Pon(*f, "TxCotaTalud", kAnguloTalud, p.angulo);
+        ASSERT_EQ(app.ui.boxes.size(), p.aviso ? 1u : 0u) << p.angulo;
+        if (p.aviso) {
+            EXPECT_NE(app.ui.boxes[0].prompt.find("(vale " + std::string(p.angulo) + ")"), std::string::npos)
+                << app.ui.boxes[0].prompt;
+        }
         EXPECT_EQ(talud.AnguloDibujado(), p.dibujado) << p.angulo;
         const std::optional<Croquis> c = f->CroquisDe(dibujo);
         ASSERT_TRUE(c.has_value());
@@ -314,6 +322,9 @@ TEST_F(GroundWalls, SlopeSketchKeepsTheLastAngleThatCanBeDrawn)
         // The typed angle stays as typed.
         EXPECT_EQ(Txt(*f, "TxCotaTalud", kAnguloTalud), p.angulo);
     }
+    // A change of the height with the angle still at 45 draws the new height, with no message.
+    app.ui.boxes.clear();
+    Pon(*f, "TxCotaTalud", kAlturaTalud, "300");
     EXPECT_TRUE(app.ui.boxes.empty());
 }
 
