@@ -654,6 +654,8 @@ std::span<const TablaForm> TablasFabricaTerreno()
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}, Despacho::Registros, true,
          Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos}, {
              {kTx, "TxtQ", 3, "Carga coronación"},
+             {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
+             {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
              {kFr, "UCframeRelleno", -1, "Material relleno"},
              {kFr, "UCframeDelta", -1, "Rozamiento muro-relleno"},
              {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
@@ -692,6 +694,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxCotaMuro", 1, "Espesor en coronación (cm)"},
              {kTx, "TxCotaMuro", 2, "Espesor en base (cm)"},
              {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
+             {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
              {kFr, "UCframeTipo", -1, "Tipo de muro"},
              {kFr, "UCframeTerreno", -1, "Terreno de cimentación"},
              {kFr, "UCframeRelleno", -1, "Material relleno"},
