@@ -58,6 +58,7 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"},
         {"FORR", "30-frmForjRet"}, {"FORP", "31-frmForMaci"}, {"ABAC", "32-frmAbaco"}, {"HMEN", "33-frmMensCorta"},
         {"ESCH", "34-frmEscHorm"}, {"FORU", "20-frmForjUnid"}, {"FORS", "21-frmForjSitu"},
+        {"MUSO", "45-frmMuroH"}, {"MUCO", "46-frmMuroCont"}, {"MUAN", "47-frmMuroAnclado"}, {"TALU", "48-frmTalud"},
         {"APIL", "15-frmPilMet"}, {"AVIG", "16-frmVigMet"}, {"DAPR", "17-frmDatosProy"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);

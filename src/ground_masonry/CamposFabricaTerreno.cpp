@@ -7,8 +7,10 @@
 #include "frame/Listas.h"
 #include "ground_masonry/MCerr.h"
 #include "ground_masonry/MDint.h"
+#include "ground_masonry/MuroTerreno.h"
 #include "ground_masonry/Muros.h"
 #include "ground_masonry/Suelo.h"
+#include "ground_masonry/Talud.h"
 
 namespace vardena {
 namespace {
@@ -62,6 +64,73 @@ constexpr GrupoDef kGruposSuelo[] = {
     {"UCframeResult", 0, kSueloResultados},
 };
 
+// The walls that hold ground and the slope: the frames the forms name, in reading order, with
+// the section sketch beside the coordinates it draws.
+constexpr std::string_view kMuroTitulo[] = {"txtTitulo"};
+constexpr std::string_view kMuroRelleno[] = {"CmbTerr", "TxtDensidad", "TxtAngulo", "txtCohesion"};
+constexpr std::string_view kMuroRozamiento[] = {"OptDelta", "Text1"};
+constexpr std::string_view kMuroTension[] = {"TxtQ(2)", "Check1", "Check2", "chkEmpPasivo"};
+constexpr std::string_view kMuroCargas[] = {"CheckFM", "TxtQ(0)", "TxtQ(1)", "TxtQ(3)"};
+constexpr std::string_view kMuroSeccion[] = {"PicMuro", "CmbSot", "TxCotaMuro", "TxCotaAncho", "TxCotaAlto", "TxVuelo",
+                                             "TxtCotaTacon", "TxtCotaSuelo"};
+constexpr std::string_view kMuroArmado[] = {"UCArmMuro", "UCArmZap"};
+constexpr GrupoDef kGruposMuroH[] = {
+    {"", kMsgGrupoElemento, kMuroTitulo, {}, 0},  {"UCframeRelleno", 0, kMuroRelleno, {}, 0},
+    {"UCframeDelta", 0, kMuroRozamiento, {}, 0},  {"UCframeArmado", 0, kMuroArmado, {}, 0},
+    {"UCframeSeccion", 0, kMuroSeccion, {}, 1},   {"UCframeTension", 0, kMuroTension, {}, 1},
+    {"UCframeCargas", 0, kMuroCargas, {}, 1},
+};
+constexpr std::string_view kMuroContTipo[] = {"cmbTipo", "ChkMortero", "TxtDensFabr", "TxtQ(5)", "TxCoefAcc"};
+constexpr std::string_view kMuroContTerreno[] = {"CmbTerreno", "Text3", "Text2", "Text4", "Text5"};
+constexpr std::string_view kMuroContCargas[] = {"TxtQ(0)", "TxtQ(1)", "TxtQ(3)", "TxtQ(4)"};
+constexpr GrupoDef kGruposMuroCont[] = {
+    {"", kMsgGrupoElemento, kMuroTitulo, {}, 0},   {"UCframeTipo", 0, kMuroContTipo, {}, 0},
+    {"UCframeTerreno", 0, kMuroContTerreno, {}, 0}, {"UCframeRelleno", 0, kMuroRelleno, {}, 0},
+    {"UCframeArmado", 0, kMuroArmado, {}, 0},     {"UCframeSeccion", 0, kMuroSeccion, {}, 1},
+    {"UCframeDelta", 0, kMuroRozamiento, {}, 1},  {"UCframeTension", 0, kMuroTension, {}, 1},
+    {"UCframeCargas", 0, kMuroContCargas, {}, 1},
+};
+constexpr std::string_view kAncladoTerreno[] = {"CmbTalud", "TxtDensidad", "TxtAngulo", "TxtQ(3)"};
+constexpr std::string_view kAncladoEmpujes[] = {"cmbTerz", "optEmpuje"};
+constexpr std::string_view kAncladoTension[] = {"TxtQ(2)", "Check1", "Check2"};
+constexpr std::string_view kAncladoCargas[] = {"CheckFM", "TxtQ(0)", "TxtQ(1)", "TxtQ(8)"};
+constexpr std::string_view kAncladoAnclajes[] = {"TxtQ(4)", "txtAng(0)", "TxtSep(0)", "TxtQ(5)", "txtAng(1)", "TxtSep(1)",
+                                                 "TxtQ(6)", "txtAng(2)", "TxtSep(2)", "TxtQ(7)", "txtAng(3)", "TxtSep(3)"};
+constexpr GrupoDef kGruposMuroAnclado[] = {
+    {"", kMsgGrupoElemento, kMuroTitulo, {}, 0},     {"UCframeTerreno", 0, kAncladoTerreno, {}, 0},
+    {"UCSuelo", 0, kAncladoEmpujes, {}, 0},          {"frmAnclaje", 0, kAncladoAnclajes, {}, 0},
+    {"UCframeArmado", 0, kMuroArmado, {}, 0},        {"UCfrSep", 0, kMuroSeccion, {}, 1},
+    {"UCframeTension", 0, kAncladoTension, {}, 1},   {"UCframeCargas", 0, kAncladoCargas, {}, 1},
+};
+constexpr std::string_view kTaludTerreno[] = {"CmbTalud", "TxtDensidad", "TxtAngulo", "TxtQ(1)", "TxtQ(0)"};
+constexpr std::string_view kTaludGeometria[] = {"PicTalud", "TxCotaTalud(0)", "TxCotaTalud(2)", "chkEstrato", "TxCotaTalud(1)"};
+constexpr std::string_view kTaludDrenaje[] = {"optDrenaje"};
+constexpr std::string_view kTaludResultados[] = {"TxtRes*", "txCuelgue", "TxCercos"};
+constexpr GrupoDef kGruposTalud[] = {
+    {"", kMsgGrupoElemento, kMuroTitulo, {}, 0},  {"UCframeTerreno", 0, kTaludTerreno, {}, 0},
+    {"UCframeDrenaje", 0, kTaludDrenaje, {}, 0},  {"UCframeTalud", 0, kTaludGeometria, {}, 1},
+    {"UCframe2", 0, kTaludResultados, {}, 1},
+};
+
+// The coordinates of a basement wall, three for each storey from the highest down.
+const std::vector<ControlVisible>& EtiquetasCotasSotanos()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxCotaMuro", 0, "Espesor cabeza 1 (cm)"},
+        {kTx, "TxCotaMuro", 1, "Altura sótano 1 (cm)"},
+        {kTx, "TxCotaMuro", 2, "Espesor pie 1 (cm)"},
+        {kTx, "TxCotaMuro", 3, "Espesor cabeza 2 (cm)"},
+        {kTx, "TxCotaMuro", 4, "Altura sótano 2 (cm)"},
+        {kTx, "TxCotaMuro", 5, "Espesor pie 2 (cm)"},
+        {kTx, "TxCotaMuro", 6, "Espesor cabeza 3 (cm)"},
+        {kTx, "TxCotaMuro", 7, "Altura sótano 3 (cm)"},
+        {kTx, "TxCotaMuro", 8, "Espesor pie 3 (cm)"},
+        {kTx, "TxCotaMuro", 9, "Espesor cabeza 4 (cm)"},
+        {kTx, "TxCotaMuro", 10, "Altura sótano 4 (cm)"},
+        {kTx, "TxCotaMuro", 11, "Espesor pie 4 (cm)"},
+    };
+    return filas;
+}
 
 // The stored fields of each form, in the order of its record.
 // The masonry forms' windows. Each has its masonry frame, with the button that opens the masonry
@@ -583,10 +652,19 @@ std::span<const TablaForm> TablasFabricaTerreno()
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,
          Listas{{"CmbTerr", -1, kRelleno}} + ListasMuro() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}, Despacho::Registros, true,
-         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMuroDePlantas}, {
+         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos}, {
              {kTx, "TxtQ", 3, "Carga coronación"},
+             {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
+             {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
+             {kFr, "UCframeRelleno", -1, "Material relleno"},
+             {kFr, "UCframeDelta", -1, "Rozamiento muro-relleno"},
+             {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
+             {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
+             {kFr, "UCframeSeccion", -1, "Sección del muro"},
+             {kFr, "UCframeArmado", -1, "Armado"},
+             {kPc, "PicMuro", -1, ""},
          }),
-         MenuDef{"Cimentacion", 6, "mnuMuroH", ""}},
+         MenuDef{"Cimentacion", 6, "mnuMuroH", ""}, kGruposMuroH, &CreaDe<MuroTerreno>},
         {"frmMuroCont", kCamposFrmMuroCont,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Muros de Contención", "Muro Contención 01", kRecubTerreno, kMinimosMuro,
@@ -609,8 +687,25 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtCotaTacon", -1, "Canto del tacón (cm)"},
              {kTx, "TxtCotaSuelo", -1, "Altura del suelo delantero (cm)"},
              {kTx, "TxtQ", 3, "Carga coronación"},
+             {kTx, "TxtQ", 0, "Carga coronación N"},
+             {kTx, "TxtQ", 1, "Momento coronación M"},
+             {kTx, "TxtQ", 5, "Resistencia fábrica"},
+             {kTx, "TxCotaMuro", 0, "Altura del muro (cm)"},
+             {kTx, "TxCotaMuro", 1, "Espesor en coronación (cm)"},
+             {kTx, "TxCotaMuro", 2, "Espesor en base (cm)"},
+             {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
+             {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
+             {kFr, "UCframeTipo", -1, "Tipo de muro"},
+             {kFr, "UCframeTerreno", -1, "Terreno de cimentación"},
+             {kFr, "UCframeRelleno", -1, "Material relleno"},
+             {kFr, "UCframeDelta", -1, "Rozamiento muro-relleno"},
+             {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
+             {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
+             {kFr, "UCframeSeccion", -1, "Sección del muro"},
+             {kFr, "UCframeArmado", -1, "Armado"},
+             {kPc, "PicMuro", -1, ""},
          }),
-         MenuDef{"Cimentacion", 7, "mnuMuroCont", ""}},
+         MenuDef{"Cimentacion", 7, "mnuMuroCont", ""}, kGruposMuroCont, &CreaDe<MuroTerreno>},
         {"frmMuroAnclado", kCamposFrmMuroAnclado,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Muros Anclados", "Muro Anclado 01", kRecubTerreno, kMinimosMuro,
@@ -618,7 +713,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Listas{{"CmbTalud", -1, kTalud}, {"cmbTerz", -1, kTerrenoAnclado}} + ListasMuro() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Superficie}, Despacho::Registros, false,
          // The anchored wall: the ground it holds and, on each level, an anchor.
-         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasMuro, EtiquetasMuroDePlantas}, {
+         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos}, {
              {kCb, "CmbTalud", -1, "Tipo de terreno"},
              {kTx, "TxtDensidad", -1, "Densidad terreno (kg/m3)"},
              {kTx, "TxtAngulo", -1, "Ángulo rozamiento interno (º)"},
@@ -626,14 +721,30 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kCb, "cmbTerz", -1, "Terreno para empujes"},
              {kOp, "optEmpuje", -1, "Empuje #"},
              {kTx, "TxtQ", 8, "Carga coronación"},
-             {kTx, "TxtQ", 4, "Tensión anclaje 1"},
-             {kTx, "TxtQ", 5, "Tensión anclaje 2"},
-             {kTx, "TxtQ", 6, "Tensión anclaje 3"},
-             {kTx, "TxtQ", 7, "Tensión anclaje 4"},
+             {kTx, "TxtQ", 4, "Tensión 1"},
+             {kTx, "TxtQ", 5, "Tensión 2"},
+             {kTx, "TxtQ", 6, "Tensión 3"},
+             {kTx, "TxtQ", 7, "Tensión 4"},
              {kTx, "txtAng", -1, "Ángulo anclaje (º)"},
              {kTx, "TxtSep", -1, "Separación anclajes (cm)"},
+             {kTx, "txtAng", 0, "Ángulo 1 (º)"},
+             {kTx, "txtAng", 1, "Ángulo 2 (º)"},
+             {kTx, "txtAng", 2, "Ángulo 3 (º)"},
+             {kTx, "txtAng", 3, "Ángulo 4 (º)"},
+             {kTx, "TxtSep", 0, "Separación 1 (cm)"},
+             {kTx, "TxtSep", 1, "Separación 2 (cm)"},
+             {kTx, "TxtSep", 2, "Separación 3 (cm)"},
+             {kTx, "TxtSep", 3, "Separación 4 (cm)"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCSuelo", -1, "Definición de empujes"},
+             {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
+             {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
+             {kFr, "UCfrSep", -1, "Esquema muro"},
+             {kFr, "frmAnclaje", -1, "Anclajes"},
+             {kFr, "UCframeArmado", -1, "Armado"},
+             {kPc, "PicMuro", -1, ""},
          }),
-         MenuDef{"Cimentacion", 8, "mnuMuroAnclado", ""}},
+         MenuDef{"Cimentacion", 8, "mnuMuroAnclado", ""}, kGruposMuroAnclado, &CreaDe<MuroTerreno>},
         {"frmTalud", kCamposFrmTalud,
          // The slope also compares its angle with 90, an upper limit.
          {true, true, PasoComprobacion::SinArgumentos, false},
@@ -647,16 +758,20 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtAngulo", -1, "Ángulo rozamiento interno (º)"},
              {kTx, "TxtQ", 0, "Sobrecarga"},
              {kTx, "TxtQ", 1, "Cohesión"},
-             {kTx, "TxCotaTalud", 0, "Altura (cm)"},
-             {kTx, "TxCotaTalud", 1, "Altura (cm)"},
+             {kTx, "TxCotaTalud", 0, "Altura del talud (cm)"},
+             {kTx, "TxCotaTalud", 1, "Espesor estrato duro (cm)"},
              {kTx, "TxCotaTalud", 2, "Ángulo del talud (º)"},
              {kOp, "optDrenaje", 0, "Sin drenaje"},
              {kOp, "optDrenaje", 1, "Con drenaje efectivo"},
              {kCk, "chkEstrato", -1, "Estrato superficial duro"},
              {kTx, "txCuelgue", -1, "Resultado 1"},
              {kTx, "TxCercos", -1, "Resultado 2"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCframeDrenaje", -1, "Drenaje"},
+             {kFr, "UCframeTalud", -1, "Geometría del talud"},
+             {kPc, "PicTalud", -1, ""},
          }),
-         MenuDef{"Cimentacion", 9, "mnuTalud", ""}},
+         MenuDef{"Cimentacion", 9, "mnuTalud", ""}, kGruposTalud, &CreaDe<Talud>},
     };
     static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;

@@ -200,8 +200,8 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmMuroH", "TxtQ", 3, Kind::TextBox, "Carga coronación"},
         {"frmMuroAnclado", "CmbSot", -1, Kind::ComboBox, "Sótanos"},
         {"frmMuroAnclado", "TxtQ", 8, Kind::TextBox, "Carga coronación"},
-        {"frmMuroAnclado", "TxtSep", 3, Kind::TextBox, "Separación anclajes (cm)"},
-        {"frmMuroAnclado", "TxCotaMuro", 11, Kind::TextBox, "Cotas del muro (cm)"},
+        {"frmMuroAnclado", "TxtSep", 3, Kind::TextBox, "Separación 4 (cm)"},
+        {"frmMuroAnclado", "TxCotaMuro", 11, Kind::TextBox, "Espesor pie 4 (cm)"},
         {"frmTalud", "TxtQ", 1, Kind::TextBox, "Cohesión"},
         {"frmTalud", "optDrenaje", 1, Kind::OptionButton, "Con drenaje efectivo"},
         // Timber: the families of the beams and columns, the timber lists common to all.
