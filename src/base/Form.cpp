@@ -474,6 +474,15 @@ std::vector<Control*> Form::Members(std::string_view name) const
     return out;
 }
 
+std::optional<int> Form::OpcionElegida(std::string_view name, int cuantas) const
+{
+    std::optional<int> elegida;
+    for (const Control* c : Members(name))
+        if (c->OptionValue() && c->Index() >= 0 && c->Index() < cuantas)
+            elegida = c->Index();
+    return elegida;
+}
+
 std::vector<Control*> Form::Controls() const
 {
     std::vector<Control*> out;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -235,6 +236,9 @@ public:
     bool Has(std::string_view name, int index = -1) const { return Find(name, index) != nullptr; }
     // The members of a control array in the order of definition.
     std::vector<Control*> Members(std::string_view name) const;
+    // The index of the member of an option array that is set, among members 0 to cuantas - 1;
+    // none when none of them is (the last set one when a record set several).
+    std::optional<int> OpcionElegida(std::string_view name, int cuantas) const;
     // All controls, and those a record holds (stored kinds, less the transient ones), in the
     // order of definition.
     std::vector<Control*> Controls() const;

@@ -114,9 +114,8 @@ void Abaco::List1_Lee()
 
 std::optional<PosicionAbaco> Abaco::Posicion() const
 {
-    for (Control* op : Members("OpPosPil"))
-        if (op->OptionValue() && op->Index() >= 0 && op->Index() <= 2)
-            return static_cast<PosicionAbaco>(op->Index());
+    if (const std::optional<int> i = OpcionElegida("OpPosPil", 3))
+        return static_cast<PosicionAbaco>(*i);
     return std::nullopt;
 }
 

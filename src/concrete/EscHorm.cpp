@@ -49,9 +49,8 @@ EscHorm::EscHorm(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, tabl
 
 std::optional<TipoLosa> EscHorm::Tipo() const
 {
-    for (Control* op : Members("OptLosa"))
-        if (op->OptionValue() && op->Index() >= 0 && op->Index() <= 3)
-            return static_cast<TipoLosa>(op->Index());
+    if (const std::optional<int> i = OpcionElegida("OptLosa", 4))
+        return static_cast<TipoLosa>(*i);
     return std::nullopt;
 }
 
@@ -190,10 +189,7 @@ std::optional<Croquis> EscHorm::CroquisDe(const Control& picture) const
         losa({{m(0) + m(1), m(3)}, {m(0), m(3) + m(4)}, {0, m(3) + m(4)}});
     // How each end is held: a bearing, the slab going on, or a wall it is built into.
     auto extremo = [&](const char* opciones, PuntoCroquis p, int hacia) {
-        Extremo e = Extremo::Apoyado;
-        for (Control* op : Members(opciones))
-            if (op->OptionValue() && op->Index() >= 0 && op->Index() <= 2)
-                e = static_cast<Extremo>(op->Index());
+        const Extremo e = static_cast<Extremo>(OpcionElegida(opciones, 3).value_or(0));
         switch (e) {
         case Extremo::Apoyado:
             c.trazos.push_back({FiguraCroquis::Poligono, PapelCroquis::Resalte,

@@ -137,9 +137,8 @@ LosaBandas::LosaBandas(Declaraciones& d, const TablaForm& tabla) : ElementForm(d
 
 std::optional<PosicionPanel> LosaBandas::Posicion() const
 {
-    for (Control* op : Members("OpPosPil"))
-        if (op->OptionValue() && op->Index() >= 0 && op->Index() <= 2)
-            return static_cast<PosicionPanel>(op->Index());
+    if (const std::optional<int> i = OpcionElegida("OpPosPil", 3))
+        return static_cast<PosicionPanel>(*i);
     return std::nullopt;
 }
 

@@ -60,9 +60,8 @@ MensCorta::MensCorta(Declaraciones& d, const TablaForm& tabla) : ElementForm(d, 
 
 std::optional<TipoMensula> MensCorta::Tipo() const
 {
-    for (Control* op : Members("OpTipo"))
-        if (op->OptionValue() && op->Index() >= 0 && op->Index() < kTipos)
-            return static_cast<TipoMensula>(op->Index());
+    if (const std::optional<int> i = OpcionElegida("OpTipo", kTipos))
+        return static_cast<TipoMensula>(*i);
     return std::nullopt;
 }
 

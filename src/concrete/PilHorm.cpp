@@ -201,9 +201,8 @@ void PilHorm::CmbPlanta_Click()
 
 std::optional<PosicionPilar> PilHorm::Posicion() const
 {
-    for (Control* op : Members("OpPosPil"))
-        if (op->OptionValue() && op->Index() >= 0 && op->Index() <= 2)
-            return static_cast<PosicionPilar>(op->Index());
+    if (const std::optional<int> i = OpcionElegida("OpPosPil", 3))
+        return static_cast<PosicionPilar>(*i);
     return std::nullopt;
 }
 

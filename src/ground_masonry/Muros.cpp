@@ -95,10 +95,7 @@ void Muros::OpTramo_Click(int) { SeleccPicSecc(); }
 
 void Muros::SeleccPicSecc()
 {
-    int tramo = 0;
-    for (Control* o : Members("OpTramo"))
-        if (o->OptionValue() && o->Index() >= 0 && o->Index() < kSeccionesMuro)
-            tramo = o->Index();
+    const int tramo = OpcionElegida("OpTramo", kSeccionesMuro).value_or(0);
     for (Control* p : Members("PctSeccMuro"))
         p->SetVisible(p->Index() == tramo);
 }
