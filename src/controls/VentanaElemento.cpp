@@ -139,6 +139,7 @@ private:
         case PapelCroquis::Ausente: return QPen(QColor("#9aa3ad"), 1, Qt::DashLine);
         case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 1.6);
         case PapelCroquis::Fabrica: return QPen(QColor("#7a3b22"), 1);
+        case PapelCroquis::Agua: return QPen(QColor("#1f6fb2"), 2, Qt::DashLine);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }
@@ -474,8 +475,12 @@ void VentanaElemento::Actualiza()
         // A panel that opens over the form as a dialog disables the frames it covers.
         caja->setEnabled(std::all_of(grupo.marcos.begin(), grupo.marcos.end(), [](const Control* m) { return m->Enabled(); }));
     }
-    for (auto& [w, c] : siguen_)
+    for (auto& [w, c] : siguen_) {
         w->setVisible(c->Visible());
+        // A sketch follows the fields it is drawn from.
+        if (c->kind() == Kind::PictureBox)
+            w->update();
+    }
     const Control* rtb = form_->Find("RichTextBox1");
     const bool resultado = rtb && rtb->Visible() && pila_->count() > 1;
     pila_->setCurrentIndex(resultado ? 1 : 0);

@@ -8,6 +8,7 @@
 #include "ground_masonry/MCerr.h"
 #include "ground_masonry/MDint.h"
 #include "ground_masonry/Muros.h"
+#include "ground_masonry/Pilotes.h"
 #include "ground_masonry/Suelo.h"
 
 namespace vardena {
@@ -218,6 +219,47 @@ constexpr CampoDef kCamposFrmPilotes[] = {
     {"CmbNumPil", {}, kLista}, {"TxtRes1", {4, 0, 1}, kTexto},
 };
 static_assert(CamposBienFormados(kCamposFrmPilotes));
+
+// The pile group's window: the pile and its cap on the left, the strata panel (closed until
+// CmdCapacidad opens it) at the top of the other two columns, its table of strata beside its
+// sketch, the capacity's results under the sketch.
+constexpr std::string_view kPilotesTitulo[] = {"txtTitulo"};
+constexpr std::string_view kPilotesPilote[] = {"CmbTipos", "CmbDiam", "TxtLPilote", "CmbNumPil", "TxtSep", "UCPilote"};
+constexpr std::string_view kPilotesCualitativos[] = {"cmbPil"};
+constexpr std::string_view kPilotesEncepado[] = {"TxtH", "TxCota", "UCEncepado", "ChRiostra", "TxtLong", "UCViga"};
+constexpr std::string_view kPilotesCargas[] = {"TxtQ(0)", "TxtQ(1)", "TxtQ(2)"};
+constexpr std::string_view kPilotesCapacidad[] = {"TxtQ(3)", "TxtQ(4)", "txtQadm", "TxtQ(5)", "CmdCapacidad"};
+constexpr std::string_view kPilotesTerreno[] = {"CmbCaract", "cmbSuelo", "CmbApoyo", "CmbEstratos", "TxtLongPil", "ChNF", "TxtNF"};
+// Stratum by stratum: thickness, cohesion, friction, blow count, unit weight; the tip's last.
+constexpr std::string_view kPilotesEstratos[] = {
+    "txtEspesor(0)", "txtCohesion(0)", "txtRozam(0)", "txtSPT(0)", "txtDens(0)",
+    "txtEspesor(1)", "txtCohesion(1)", "txtRozam(1)", "txtSPT(1)", "txtDens(1)",
+    "txtEspesor(2)", "txtCohesion(2)", "txtRozam(2)", "txtSPT(2)", "txtDens(2)",
+    "txtEspesor(3)", "txtCohesion(3)", "txtRozam(3)", "txtSPT(3)", "txtDens(3)",
+    "txtEspesor(4)", "txtCohesion(4)", "txtRozam(4)", "txtSPT(4)", "txtDens(4)",
+    "txtEspesor(5)", "txtCohesion(5)", "txtRozam(5)", "txtSPT(5)", "txtDens(5)",
+};
+constexpr std::string_view kPilotesCorte[] = {"PctEstratos", "UCOK2", "UCOK1"};
+constexpr std::string_view kPilotesRoca[] = {"txtQu", "txtS", "txtAp", "txtLe", "txtKsp", "txtQd"};
+constexpr int kMsgGrupoPilote = 1781;
+constexpr int kMsgGrupoEncepado = 1782;
+constexpr int kMsgGrupoCapacidad = 1783;
+constexpr int kMsgGrupoEstratos = 1784;
+constexpr int kMsgGrupoCorte = 1785;
+constexpr int kMsgGrupoCargas = 1786;
+constexpr int kMsgGrupoCualitativos = 1787;
+constexpr GrupoDef kGruposPilotes[] = {
+    {"", kMsgGrupoElemento, kPilotesTitulo, {}, 0},
+    {"UCSuelo", 0, kPilotesTerreno, {}, 1},
+    {"", kMsgGrupoEstratos, kPilotesEstratos, "UCSuelo", 1},
+    {"", kMsgGrupoCorte, kPilotesCorte, "UCSuelo", 2},
+    {"UCframeRoca", 0, kPilotesRoca, "UCSuelo", 2},
+    {"", kMsgGrupoPilote, kPilotesPilote, {}, 0},
+    {"", kMsgGrupoCualitativos, kPilotesCualitativos, {}, 0},
+    {"", kMsgGrupoEncepado, kPilotesEncepado, {}, 1},
+    {"", kMsgGrupoCargas, kPilotesCargas, {}, 1},
+    {"", kMsgGrupoCapacidad, kPilotesCapacidad, {}, 2},
+};
 
 constexpr CampoDef kCamposFrmMuroH[] = {
     {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
@@ -549,6 +591,13 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "txtRozam", -1, "Rozamiento estrato # (º)"},
              {kTx, "txtSPT", -1, "N golpes SPT estrato #"},
              {kTx, "txtDens", -1, "Densidad estrato # (kN/m3)"},
+             // The strata panel, its buttons and its sketch.
+             {kFr, "UCSuelo", -1, "Datos del terreno"},
+             {kFr, "UCframeRoca", -1, "DETERMINACIÓN DE LA PRESIÓN DE SERVICIO EN ROCA"},
+             {kBt, "CmdCapacidad", -1, "Capacidad"},
+             {kBt, "UCOK2", -1, "Calcular"},
+             {kBt, "UCOK1", -1, "Cerrar"},
+             {kPc, "PctEstratos", -1, "Corte del terreno"},
              {kTx, "txtLe", -1, "Parámetro Le"},
              {kCb, "cmbPil", -1, "Datos cualitativos"},
              {kCb, "cmbPil", 0, "Terreno"},
@@ -569,7 +618,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtQ", 3, "Resistencia por punta"},
              {kTx, "TxtQ", 4, "Resistencia por fuste"},
              {kTx, "TxtQ", 5, "Capacidad del pilote"},
-             {kTx, "txtQadm", -1, "Carga admisible del pilote"},
+             {kTx, "txtQadm", -1, "Tope estructural del pilote"},
              {kTx, "TxCota", -1, "Cota (cm)"},
              {kTx, "TxtH", -1, "Canto del encepado (cm)"},
              {kTx, "TxtSep", -1, "Separación entre pilotes (cm)"},
@@ -577,7 +626,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtLong", -1, "Longitud riostra # (m)"},
              {kNd, "UCViga", -1, "Armadura de riostra"},
          }),
-         MenuDef{"Cimentacion", 5, "mnuPilotes", ""}},
+         MenuDef{"Cimentacion", 5, "mnuPilotes", ""}, kGruposPilotes, &CreaDe<Pilotes>},
         {"frmMuroH", kCamposFrmMuroH,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,
