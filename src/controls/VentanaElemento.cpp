@@ -321,6 +321,22 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
     // The band of the sketches being placed side by side.
     QHBoxLayout* croquis = nullptr;
     int fila = 0, col = 0;
+    if (g.rejilla > 0) {
+        // A grid: the headings and the rows' labels as the form gives them, the fields narrow.
+        int i = 0;
+        for (Control* c : g.miembros) {
+            QWidget* w = c->kind() == Kind::Label ? vista_->De(*c).widget() : WidgetDe(*c);
+            if (auto* rotulo = qobject_cast<QLabel*>(w))
+                rotulo->setWordWrap(true);
+            if (auto* linea = qobject_cast<QLineEdit*>(w)) {
+                linea->setMinimumWidth(40);
+                linea->setMaximumWidth(70);
+            }
+            rejilla->addWidget(w, i / g.rejilla, i % g.rejilla);
+            ++i;
+        }
+        return grupo;
+    }
     if (g.tabla) {
         // A row a value: what it is, its symbol and unit, the value.
         for (Control* c : g.miembros) {

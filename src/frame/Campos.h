@@ -179,6 +179,8 @@ struct MenuDef {
 // label says what the value is, the others (its symbol, its unit) stand beside it. The value is
 // a field, or, in a group without fields, the third label of the row (a label that shows a
 // calculated value).
+// A `rejilla` group of n columns stands as a grid: its controls fill it row by row, n a row, in
+// the order given (a row of headings first, then each row's label and its fields).
 struct GrupoDef {
     std::string_view marco;
     int mensaje = 0;
@@ -186,6 +188,7 @@ struct GrupoDef {
     std::string_view dentro = {};
     int columna = -1;
     bool tabla = false;
+    int rejilla = 0;
 };
 
 // The groups every element window has besides its own: first its identity (title and level)

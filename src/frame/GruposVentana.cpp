@@ -129,6 +129,15 @@ std::vector<GrupoCampos> Declarados(const Form& form, std::span<const GrupoDef> 
             for (Control* c : entradas.back())
                 tomados.insert(c);
         }
+        if (def.rejilla > 0) {
+            // Every control keeps its cell: a label here heads a row or a column.
+            g.rejilla = def.rejilla;
+            for (const std::vector<Control*>& e : entradas)
+                g.miembros.insert(g.miembros.end(), e.begin(), e.end());
+            if (!g.miembros.empty())
+                out.push_back(std::move(g));
+            continue;
+        }
         if (def.tabla) {
             Filas(g, entradas);
             if (!g.miembros.empty())
@@ -165,6 +174,8 @@ std::string EtiquetaEnGrupo(const Control& c, const GrupoCampos& g)
 
 int AltoDeGrupo(const GrupoCampos& g)
 {
+    if (g.rejilla > 0)
+        return static_cast<int>((g.miembros.size() + static_cast<size_t>(g.rejilla) - 1) / static_cast<size_t>(g.rejilla)) + 1;
     int filas = 0;
     const Control* anterior = nullptr;
     for (const Control* c : g.miembros) {

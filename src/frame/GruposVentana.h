@@ -26,6 +26,8 @@ struct GrupoCampos {
     // `etiquetas`, with the labels that stand beside it (its symbol, its unit) here.
     bool tabla = false;
     std::map<const Control*, std::vector<Control*>> junto = {};
+    // A grid of this many columns (GrupoDef::rejilla), filled row by row with the members; 0 for none.
+    int rejilla = 0;
 };
 // The data fields of an element form grouped for display: the groups its definition declares
 // first, then by kind and name: the element's identity, materials,

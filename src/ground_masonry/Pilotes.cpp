@@ -108,7 +108,7 @@ void Pilotes::Redibuja()
     const bool golpes = At("CmbCaract").ListIndex() == kCaractGolpes;
     for (int k = 0; k < kEstratosPilote; ++k) {
         const bool visible = k < n || k == kEstratoPunta;
-        for (const char* campo : {"txtEspesor", "txtCohesion", "txtRozam", "txtSPT", "txtDens"})
+        for (const char* campo : {"lblEstrato", "txtEspesor", "txtCohesion", "txtRozam", "txtSPT", "txtDens"})
             At(campo, k).SetVisible(visible);
         // The method reads the blow counts, or the soil's strength and weight.
         At("txtSPT", k).SetEnabled(golpes);
@@ -118,7 +118,8 @@ void Pilotes::Redibuja()
     // The tip stratum reaches below the pile: its thickness is not the shaft's unless it is one.
     At("txtEspesor", kEstratoPunta).SetEnabled(n > kEstratoPunta);
     At("TxtNF").SetEnabled(At("ChNF").CheckValue() == 1);
-    At("UCframeRoca").SetVisible(At("CmbApoyo").ListIndex() == kApoyoRoca);
+    // The rock's frame stands in the panel, for a tip on rock.
+    At("UCframeRoca").SetVisible(At("UCSuelo").Visible() && At("CmbApoyo").ListIndex() == kApoyoRoca);
 }
 
 void Pilotes::CmdCapacidad_Click()
@@ -127,7 +128,11 @@ void Pilotes::CmdCapacidad_Click()
     Redibuja();
 }
 
-void Pilotes::UCOK1_Click() { At("UCSuelo").SetVisible(false); }
+void Pilotes::UCOK1_Click()
+{
+    At("UCSuelo").SetVisible(false);
+    Redibuja();
+}
 
 void Pilotes::UCOK2_Click()
 {
@@ -257,7 +262,7 @@ std::optional<Croquis> Pilotes::CroquisDe(const Control& picture) const
 {
     if (picture.Name() != "PctEstratos")
         return std::nullopt;
-    constexpr int kAncho = 2400, kAlto = 3200;
+    constexpr int kAncho = 2500, kAlto = 3200;
     constexpr int kArriba = 250, kAbajo = 150, kIzquierda = 150, kDerecha = 1850;
     Croquis c{kAncho, kAlto, {}};
     const int n = EstratosFuste();
@@ -297,7 +302,7 @@ std::optional<Croquis> Pilotes::CroquisDe(const Control& picture) const
     const int medio = (kIzquierda + kDerecha) / 2 + 150;
     const int semiancho = std::clamp(static_cast<int>(std::lround(dm * escala * 1.5)), 40, 200);
     c.Rectangulo(P::Hormigon, medio - semiancho, kArriba - 120, medio + semiancho, y(L));
-    c.Cota({kDerecha + 250, kArriba}, {kDerecha + 250, y(L)}, Formato00(L) + " m");
+    c.Cota({kDerecha + 150, kArriba}, {kDerecha + 150, y(L)}, Formato00(L) + " m");
     return c;
 }
 

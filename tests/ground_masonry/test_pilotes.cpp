@@ -172,9 +172,9 @@ TEST_F(Piles, BadInputGoesToTheErrorWindowAndChangesNothing)
         const char* campo;
     };
     const std::vector<Fila> filas = {
-        {"pile of no length", {{"TxtLongPil", "0"}}, 11, "Longitud del pilote en el terreno (m) = 0"},
+        {"pile of no length", {{"TxtLongPil", "0"}}, 11, "Long. en el terreno (m) = 0"},
         {"blow counts over no length", {{"CmbCaract", "1"}, {"TxtLongPil", "0"}}, 11, "= 0"},
-        {"rock joints of no spacing", {{"txtS", "0"}}, 11, "Espaciamiento discontinuidades s (mm) = 0"},
+        {"rock joints of no spacing", {{"txtS", "0"}}, 11, "Espaciamiento s (mm) = 0"},
         {"rock under a pile of no diameter", {{"CmbDiam", "-1"}}, 11, "Diámetro (cm)"},
         {"negative joint opening", {{"txtAp", "-2"}}, 5, "= -2"},
         {"fine soil of cohesion -100", {{"CmbApoyo", "1"}, {"cmbSuelo", "1"}, {"txtCohesion(5)", "-100"}}, 11, "= -100"},
@@ -238,8 +238,10 @@ TEST_F(Piles, PanelOpensShowsItsStrataAndCloses)
     Pon(*f, "CmbCaract", "1");
     EXPECT_TRUE(f->At("txtSPT", 0).Enabled());
     EXPECT_FALSE(f->At("txtRozam", 0).Enabled());
+    Pon(*f, "CmbApoyo", "0");
     f->At("UCOK1").Click();
     EXPECT_FALSE(f->At("UCSuelo").Visible());
+    EXPECT_FALSE(f->At("UCframeRoca").Visible()) << "the rock's frame closes with the panel";
 
     // The panel's groups follow it; the strata table stands beside the sketch.
     const std::vector<GrupoCampos> grupos = AgrupaCampos(*f);
