@@ -581,7 +581,8 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Listas{{"CmbApoyo", -1, kApoyoPilote}, {"CmbEstratos", -1, kEstratos}, {"CmbCaract", -1, kCaracterizacion}, {"cmbSuelo", -1, kSueloPilote}, {"cmbPil", 0, kPilTerreno}, {"cmbPil", 1, kPilNumero}, {"cmbPil", 2, kPilCarga}, {"cmbPil", 3, kPilDificultad}, {"cmbPil", 4, kPilApoyo}, {"cmbPil", 5, kPilPunta}, {"CmbTipos", -1, kTiposPilote}, {"CmbDiam", -1, kDiametroPilote}, {"CmbNumPil", -1, kNumeroPilotes}} + ListasHormigon25(),
          {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
          // The pile group: the strata along the pile, the pile, its cap and the ties between caps.
-         Visibles({EtiquetasRoca}, {
+         // The rock's fields take captions of their own, for the narrow column beside the strata.
+         Visibles({}, {
              {kCb, "CmbCaract", -1, "Determinación"},
              {kCb, "cmbSuelo", -1, "Tipo de suelo"},
              {kCb, "CmbApoyo", -1, "Apoyo de la punta"},
@@ -616,10 +617,10 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kLb, "lblEstrato", 4, "5"},
              {kLb, "lblEstrato", 5, "Punta"},
              {kTx, "txtLe", -1, "Parámetro Le"},
-             // The rock's fields in the narrow column beside the strata.
              {kTx, "txtQu", -1, "Resist. roca qu (kN/m2)"},
              {kTx, "txtS", -1, "Espaciamiento s (mm)"},
              {kTx, "txtAp", -1, "Apertura a (mm)"},
+             {kTx, "txtKsp", -1, "Parámetro Ksp"},
              {kTx, "txtQd", -1, "Presión servicio (kN/m2)"},
              {kCb, "cmbPil", -1, "Datos cualitativos"},
              {kCb, "cmbPil", 0, "Terreno"},
