@@ -55,14 +55,13 @@ public:
     std::optional<Croquis> CroquisDe(const Control& picture) const override;
     std::string ResumenCalculo() const override;
 
-    // The capacity the fields give now, without writing it. Throws the run-time error of a
-    // formula that cannot be evaluated, naming the field that causes it.
-    CapacidadPilote Calc_Capacidad() const;
-
 protected:
     void CargaPropia() override;
 
 private:
+    // The capacity the fields give now, without writing it. Throws the run-time error of a
+    // formula that cannot be evaluated, naming the field that causes it.
+    CapacidadPilote Calc_Capacidad() const;
     void ConectaEventos();
     void List1_Lee();
     double Valor(std::string_view control, int index = -1) const;
