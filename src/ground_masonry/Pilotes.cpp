@@ -42,8 +42,9 @@ constexpr double kGolpesMaximos = 50;
 
 // The structural stress of the concrete by the pile's kind (CPI number = CmbTipos row + 2):
 // driven displacement piles (CPI-2, CPI-3), bored piles with a casing (CPI-4, CPI-5), bored under
-// slurry (CPI-6) and augered (CPI-7, CPI-8). The first set serves a tip that carries up to the
-// rows of cmbPil(5) (below 2), the second any other.
+// slurry (CPI-6) and augered (CPI-7, CPI-8). The first set serves the rows of cmbPil(5) below 2
+// (both rows its list has), the second any other row a record may hold. A stress of 0 sets no
+// limit.
 constexpr double kTensionPunta[] = {750, 600, 500, 0};
 constexpr double kTensionOtra[] = {750, 500, 400, 350};
 int GrupoTension(int cpi)
