@@ -161,6 +161,14 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         v->alCerrar = nullptr;
         v->close();
     }
+    // The pile group with its strata panel open, as CmdCapacidad leaves it.
+    if (VentanaForm* v = programa.AbreOpcion("ZPIL")) {
+        EligePrimerRegistro(v);
+        v->vista().Ejecuta([v] { v->form().At("CmdCapacidad").Click(); });
+        escritas.push_back(Fotografia(v, carpeta, "40-frmPilotes"));
+        v->alCerrar = nullptr;
+        v->close();
+    }
     DatosError e;
     e.numero = 75;
     e.descripcion = "Error de acceso a la ruta o al archivo";

@@ -139,6 +139,7 @@ private:
         case PapelCroquis::Ausente: return QPen(QColor("#9aa3ad"), 1, Qt::DashLine);
         case PapelCroquis::Armadura: return QPen(QColor("#8b1e1e"), 1.6);
         case PapelCroquis::Fabrica: return QPen(QColor("#7a3b22"), 1);
+        case PapelCroquis::Agua: return QPen(QColor("#1f6fb2"), 2, Qt::DashLine);
         default: return QPen(QColor("#1d3557"), 1);
         }
     }
@@ -352,6 +353,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
         for (size_t k = 0; k < g.cabeceras.size(); ++k) {
             QLabel* cabecera = Etiqueta(g.cabeceras[k]);
             cabecera->setStyleSheet("font-weight: bold;");
+            cabecera->setWordWrap(true);
             rejilla->addWidget(cabecera, 0, static_cast<int>(k));
         }
         const size_t porFila = g.cabeceras.size() - 1;
@@ -365,8 +367,11 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
                     continue;
                 celdasFila.push_back(c);
                 QWidget* w = WidgetDe(*c);
-                if (auto* linea = qobject_cast<QLineEdit*>(w))
-                    linea->setMaximumWidth(90);
+                // Many columns take narrow fields, so that the grid fits its column of the window.
+                if (auto* linea = qobject_cast<QLineEdit*>(w)) {
+                    linea->setMinimumWidth(40);
+                    linea->setMaximumWidth(porFila > 2 ? 70 : 90);
+                }
                 rejilla->addWidget(ConUnidad(*c, w), f, static_cast<int>(k) + 1);
             }
             QLabel* rotulo = Etiqueta(g.rotulosFilas[r]);
@@ -526,8 +531,12 @@ void VentanaElemento::Actualiza()
         // A panel that opens over the form as a dialog disables the frames it covers.
         caja->setEnabled(std::all_of(grupo.marcos.begin(), grupo.marcos.end(), [](const Control* m) { return m->Enabled(); }));
     }
-    for (auto& [w, c] : siguen_)
+    for (auto& [w, c] : siguen_) {
         w->setVisible(c->Visible());
+        // A sketch follows the fields it is drawn from.
+        if (c->kind() == Kind::PictureBox)
+            w->update();
+    }
     for (auto& [w, celdas] : filas_)
         w->setVisible(std::any_of(celdas.begin(), celdas.end(), [](const Control* c) { return c->Visible(); }));
     const Control* rtb = form_->Find("RichTextBox1");

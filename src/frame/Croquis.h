@@ -26,6 +26,7 @@ enum class PapelCroquis {
     Resalte,     // a part of a plan set off from the rest: a drop panel, a chosen band of a slab
     Armadura,    // a reinforcing bar or stirrup
     Fabrica,     // masonry: a wall's leaves and pilasters
+    Agua,        // the water table: a line across the ground
 };
 
 enum class FiguraCroquis {

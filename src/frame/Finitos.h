@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <span>
+#include <string_view>
 
 namespace vardena {
 
@@ -14,5 +15,13 @@ class Form;
 // Throws the overflow error when any of `figuras` is not finite. Of the fields `datos` it names
 // the one of the greatest magnitude (a null entry is skipped).
 void CompruebaFinitos(const Form& form, std::initializer_list<double> figuras, std::span<const Control* const> datos);
+
+// Arithmetic that the run time would refuse, for the formulas of a form: a zero divisor (error
+// 11), a result that is no longer a number (6), the square root of a negative number (5). `dato`
+// is the field whose value causes it; the error's sentence names it (its caption, else its
+// label) and its text.
+double DivideDato(const Form& form, double a, double b, std::string_view dato, int index = -1);
+double FinitoDato(const Form& form, double x, std::string_view dato, int index = -1);
+double RaizDato(const Form& form, double x, std::string_view dato, int index = -1);
 
 }  // namespace vardena

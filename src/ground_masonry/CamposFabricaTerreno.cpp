@@ -9,6 +9,7 @@
 #include "ground_masonry/MDint.h"
 #include "ground_masonry/MuroTerreno.h"
 #include "ground_masonry/Muros.h"
+#include "ground_masonry/Pilotes.h"
 #include "ground_masonry/Suelo.h"
 #include "ground_masonry/Talud.h"
 
@@ -287,6 +288,53 @@ constexpr CampoDef kCamposFrmPilotes[] = {
     {"CmbNumPil", {}, kLista}, {"TxtRes1", {4, 0, 1}, kTexto},
 };
 static_assert(CamposBienFormados(kCamposFrmPilotes));
+
+// The pile group's window: the pile on the left, the strata panel (closed until CmdCapacidad
+// opens it) at the top of the other two columns, its table of strata and the rock beside its
+// sketch; the capacity's results under the sketch, then the loads and the cap.
+constexpr std::string_view kPilotesTitulo[] = {"txtTitulo"};
+constexpr std::string_view kPilotesPilote[] = {"CmbTipos", "CmbDiam", "TxtLPilote", "CmbNumPil", "TxtSep", "UCPilote"};
+constexpr std::string_view kPilotesCualitativos[] = {"cmbPil"};
+constexpr std::string_view kPilotesEncepado[] = {"TxtH", "TxCota", "UCEncepado", "ChRiostra", "TxtLong", "UCViga"};
+constexpr std::string_view kPilotesCargas[] = {"TxtQ(0)", "TxtQ(1)", "TxtQ(2)"};
+constexpr std::string_view kPilotesCapacidad[] = {"TxtQ(3)", "TxtQ(4)", "txtQadm", "TxtQ(5)", "CmdCapacidad"};
+constexpr std::string_view kPilotesTerreno[] = {"CmbCaract", "cmbSuelo", "CmbApoyo", "CmbEstratos", "TxtLongPil"};
+// A table: a row a stratum (thickness, cohesion, friction, blow count, unit weight), the tip's last.
+// The strata as a table: a row a stratum, the last the one the tip stands in.
+constexpr std::string_view kPilotesEstratos[] = {
+    "txtEspesor(0)", "txtCohesion(0)", "txtRozam(0)", "txtSPT(0)", "txtDens(0)",
+    "txtEspesor(1)", "txtCohesion(1)", "txtRozam(1)", "txtSPT(1)", "txtDens(1)",
+    "txtEspesor(2)", "txtCohesion(2)", "txtRozam(2)", "txtSPT(2)", "txtDens(2)",
+    "txtEspesor(3)", "txtCohesion(3)", "txtRozam(3)", "txtSPT(3)", "txtDens(3)",
+    "txtEspesor(4)", "txtCohesion(4)", "txtRozam(4)", "txtSPT(4)", "txtDens(4)",
+    "txtEspesor(5)", "txtCohesion(5)", "txtRozam(5)", "txtSPT(5)", "txtDens(5)",
+};
+constexpr std::string_view kPilotesEstratosColumnas[] = {"Estrato", "Espesor (m)", "Cohesión (kN/m2)", "Rozam. (º)", "N SPT",
+                                                         "Densidad (kN/m3)"};
+constexpr std::string_view kPilotesEstratosFilas[] = {"1", "2", "3", "4", "5", "Punta"};
+constexpr std::string_view kPilotesCorte[] = {"PctEstratos", "ChNF", "TxtNF", "UCOK2", "UCOK1"};
+constexpr std::string_view kPilotesRoca[] = {"lblRoca", "lblQu", "txtQu", "txtS", "txtAp", "txtLe", "txtKsp", "txtQd"};
+constexpr int kMsgGrupoPilote = 1781;
+constexpr int kMsgGrupoEncepado = 1782;
+constexpr int kMsgGrupoCapacidad = 1783;
+constexpr int kMsgGrupoEstratos = 1784;
+constexpr int kMsgGrupoCorte = 1785;
+constexpr int kMsgGrupoCargas = 1786;
+constexpr int kMsgGrupoCualitativos = 1787;
+constexpr int kMsgGrupoRoca = 1788;
+constexpr GrupoDef kGruposPilotes[] = {
+    {"", kMsgGrupoElemento, kPilotesTitulo, {}, 0},
+    {"UCSuelo", 0, kPilotesTerreno, {}, 1},
+    {"", kMsgGrupoEstratos, kPilotesEstratos, "UCSuelo", 1, false, kPilotesEstratosColumnas, kPilotesEstratosFilas},
+    {"", kMsgGrupoCorte, kPilotesCorte, "UCSuelo", 2},
+    // Titled short, its frame's caption heading it inside, so that the column stays narrow.
+    {"", kMsgGrupoRoca, kPilotesRoca, "UCframeRoca", 1},
+    {"", kMsgGrupoPilote, kPilotesPilote, {}, 0},
+    {"", kMsgGrupoCualitativos, kPilotesCualitativos, {}, 0},
+    {"", kMsgGrupoCapacidad, kPilotesCapacidad, {}, 2},
+    {"", kMsgGrupoCargas, kPilotesCargas, {}, 1},
+    {"", kMsgGrupoEncepado, kPilotesEncepado, {}, 2},
+};
 
 constexpr CampoDef kCamposFrmMuroH[] = {
     {"TxtAngulo", {}, kTexto, {"30"}}, {"TxtDensidad", {}, kTexto, {"1500"}}, {"CmbTerr", {}, kLista},
@@ -605,31 +653,46 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Listas{{"CmbApoyo", -1, kApoyoPilote}, {"CmbEstratos", -1, kEstratos}, {"CmbCaract", -1, kCaracterizacion}, {"cmbSuelo", -1, kSueloPilote}, {"cmbPil", 0, kPilTerreno}, {"cmbPil", 1, kPilNumero}, {"cmbPil", 2, kPilCarga}, {"cmbPil", 3, kPilDificultad}, {"cmbPil", 4, kPilApoyo}, {"cmbPil", 5, kPilPunta}, {"CmbTipos", -1, kTiposPilote}, {"CmbDiam", -1, kDiametroPilote}, {"CmbNumPil", -1, kNumeroPilotes}} + ListasHormigon25(),
          {Magnitud::Fuerza, Magnitud::Momento, Magnitud::Momento, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza}, Despacho::Registros, true,
          // The pile group: the strata along the pile, the pile, its cap and the ties between caps.
-         Visibles({EtiquetasRoca}, {
+         // The rock's fields take captions of their own, for the narrow column beside the strata.
+         Visibles({}, {
              {kCb, "CmbCaract", -1, "Determinación"},
              {kCb, "cmbSuelo", -1, "Tipo de suelo"},
              {kCb, "CmbApoyo", -1, "Apoyo de la punta"},
              {kCk, "ChNF", -1, "Nivel freático"},
-             {kTx, "TxtNF", -1, "Profundidad nivel freático (m)"},
+             {kTx, "TxtNF", -1, "Prof. nivel freático (m)"},
              {kCb, "CmbEstratos", -1, "Nº de estratos"},
-             {kTx, "TxtLongPil", -1, "Longitud del pilote en el terreno (m)"},
+             {kTx, "TxtLongPil", -1, "Long. en el terreno (m)"},
              {kTx, "txtEspesor", -1, "Espesor estrato # (m)"},
              {kTx, "txtCohesion", -1, "Cohesión estrato #"},
              {kTx, "txtRozam", -1, "Rozamiento estrato # (º)"},
              {kTx, "txtSPT", -1, "N golpes SPT estrato #"},
              {kTx, "txtDens", -1, "Densidad estrato # (kN/m3)"},
+             // The strata panel, its buttons and its sketch.
+             {kFr, "UCSuelo", -1, "Datos del terreno"},
+             {kFr, "UCframeRoca", -1, "DETERMINACIÓN DE LA PRESIÓN DE SERVICIO EN ROCA"},
+             {kLb, "lblRoca", -1, "DETERMINACIÓN DE LA PRESIÓN DE SERVICIO EN ROCA"},
+             {kLb, "lblQu", -1, "Resist. roca qu (kN/m2)"},
+             {kBt, "CmdCapacidad", -1, "Capacidad"},
+             {kBt, "UCOK2", -1, "Calcular"},
+             {kBt, "UCOK1", -1, "Cerrar"},
+             {kPc, "PctEstratos", -1, "Corte del terreno"},
              {kTx, "txtLe", -1, "Parámetro Le"},
+             {kTx, "txtQu", -1, "Resist. roca qu (kN/m2)"},
+             {kTx, "txtS", -1, "Espaciamiento s (mm)"},
+             {kTx, "txtAp", -1, "Apertura a (mm)"},
+             {kTx, "txtKsp", -1, "Parámetro Ksp"},
+             {kTx, "txtQd", -1, "Presión servicio (kN/m2)"},
              {kCb, "cmbPil", -1, "Datos cualitativos"},
              {kCb, "cmbPil", 0, "Terreno"},
              {kCb, "cmbPil", 1, "Nº de pilares"},
              {kCb, "cmbPil", 2, "Carga por pilar"},
-             {kCb, "cmbPil", 3, "Dificultades del terreno"},
+             {kCb, "cmbPil", 3, "Dificultades"},
              {kCb, "cmbPil", 4, "Estrato de apoyo"},
-             {kCb, "cmbPil", 5, "Resistencia punta y fuste"},
+             {kCb, "cmbPil", 5, "Punta y fuste"},
              {kCb, "CmbTipos", -1, "Tipo de pilote"},
              {kCb, "CmbDiam", -1, "Diámetro (cm)"},
              {kCb, "CmbNumPil", -1, "Nº de pilotes"},
-             {kTx, "TxtLPilote", -1, "Longitud del pilote (m)"},
+             {kTx, "TxtLPilote", -1, "Longitud (m)"},
              {kNd, "UCPilote", -1, "Armadura del pilote"},
              {kNd, "UCEncepado", -1, "Armadura del encepado"},
              {kTx, "TxtQ", 0, "Carga axil N"},
@@ -638,15 +701,15 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtQ", 3, "Resistencia por punta"},
              {kTx, "TxtQ", 4, "Resistencia por fuste"},
              {kTx, "TxtQ", 5, "Capacidad del pilote"},
-             {kTx, "txtQadm", -1, "Carga admisible del pilote"},
+             {kTx, "txtQadm", -1, "Tope estructural del pilote"},
              {kTx, "TxCota", -1, "Cota (cm)"},
              {kTx, "TxtH", -1, "Canto del encepado (cm)"},
-             {kTx, "TxtSep", -1, "Separación entre pilotes (cm)"},
+             {kTx, "TxtSep", -1, "Separación (cm)"},
              {kCk, "ChRiostra", -1, "Riostra #"},
              {kTx, "TxtLong", -1, "Longitud riostra # (m)"},
              {kNd, "UCViga", -1, "Armadura de riostra"},
          }),
-         MenuDef{"Cimentacion", 5, "mnuPilotes", ""}},
+         MenuDef{"Cimentacion", 5, "mnuPilotes", ""}, kGruposPilotes, &CreaDe<Pilotes>},
         {"frmMuroH", kCamposFrmMuroH,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,

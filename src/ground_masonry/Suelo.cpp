@@ -5,6 +5,7 @@
 
 #include "base/VbFormat.h"
 #include "frame/Avisos.h"
+#include "frame/Finitos.h"
 #include "works/Declaraciones.h"
 #include "works/Registros.h"
 #include "works/Subrut.h"
@@ -21,16 +22,8 @@ constexpr int kMsgVNula = 1219;
 constexpr int kMsgVNula2 = 1220;
 constexpr int kMsgAvisoCohesion = 1221;
 constexpr int kMsgAvisoCohesion2 = 1030;
-// The sentences of the run-time errors of the formulas.
-constexpr int kMsgDivisionPorCero = 1521;
-constexpr int kMsgDesbordamiento = 1522;
-constexpr int kMsgRaizNegativa = 1523;
 // The caption of the length of a circular footing: "Diámetro".
 constexpr int kMsgDiametro = 1525;
-
-constexpr int kErrLlamadaNoValida = 5;
-constexpr int kErrDesbordamiento = 6;
-constexpr int kErrDivisionPorCero = 11;
 
 // The cohesion from which the granular service pressure may not apply, kN/m2.
 constexpr double kCohesionGranular = 8;
@@ -85,33 +78,11 @@ double Suelo::Valor(std::string_view control) const { return ValComaCopy(At(cont
 
 double Suelo::Phi() const { return Valor("Text2") * kPi / 180; }
 
-void Suelo::Falla(int numero, int mensaje, std::string_view dato) const
-{
-    const Control& c = At(dato);
-    const std::string rotulo = c.Caption().empty() ? c.Label() : c.Caption();
-    throw ErrorEjecucion(numero, Mensaje(decl(), mensaje, {rotulo, c.Text()}));
-}
+double Suelo::Divide(double a, double b, std::string_view dato) const { return DivideDato(*this, a, b, dato); }
 
-double Suelo::Divide(double a, double b, std::string_view dato) const
-{
-    if (b == 0)
-        Falla(kErrDivisionPorCero, kMsgDivisionPorCero, dato);
-    return Finito(a / b, dato);
-}
+double Suelo::Finito(double x, std::string_view dato) const { return FinitoDato(*this, x, dato); }
 
-double Suelo::Finito(double x, std::string_view dato) const
-{
-    if (!std::isfinite(x))
-        Falla(kErrDesbordamiento, kMsgDesbordamiento, dato);
-    return x;
-}
-
-double Suelo::Raiz(double x, std::string_view dato) const
-{
-    if (x < 0)
-        Falla(kErrLlamadaNoValida, kMsgRaizNegativa, dato);
-    return std::sqrt(x);
-}
+double Suelo::Raiz(double x, std::string_view dato) const { return RaizDato(*this, x, dato); }
 
 Suelo::Factores Suelo::FactoresSegundaForma(double phi) const
 {
@@ -231,26 +202,30 @@ void Suelo::Calc_ServGranular()
     At("txtTaServ").SetText(FormatoNum(Finito(qs, "txtSPT")));
 }
 
-void Suelo::Calc_Roca()
+PresionRoca CalculaPresionRoca(const Form& form, double ancho, std::string_view datoAncho)
 {
-    const double qu = Valor("txtQu");
-    const double a = Valor("txtAp");
-    const double s = Valor("txtS");
-    const double B = Valor("Text6");
-    double r = Divide(a, s, "txtS");
+    const double qu = ValComaCopy(form.At("txtQu").Text());
+    const double a = ValComaCopy(form.At("txtAp").Text());
+    const double s = ValComaCopy(form.At("txtS").Text());
+    double r = DivideDato(form, a, s, "txtS");
     if (r > 0.02)
         r = 0.02;
     // s is in millimetres, B in metres.
-    double t = Divide(s, B, "Text6") / 1000;
+    double t = DivideDato(form, s, ancho, datoAncho) / 1000;
     if (t < 0.05)
         t = 0.05;
     if (t > 2)
         t = 2;
-    const double ksp = Divide(3 + t, 10 * Raiz(1 + 300 * r, "txtAp"), "txtAp");
-    const double qd = Finito(ksp * qu, "txtQu");
-    At("txtKsp").SetText(Formato00(ksp));
+    const double ksp = DivideDato(form, 3 + t, 10 * RaizDato(form, 1 + 300 * r, "txtAp"), "txtAp");
+    return {ksp, FinitoDato(form, ksp * qu, "txtQu")};
+}
+
+void Suelo::Calc_Roca()
+{
+    const PresionRoca roca = CalculaPresionRoca(*this, Valor("Text6"), "Text6");
+    At("txtKsp").SetText(Formato00(roca.ksp));
     for (const char* campo : {"txtQd", "txtTadm", "txtServ"})
-        At(campo).SetText(Formato0(qd));
+        At(campo).SetText(Formato0(roca.qd));
     // The warnings that earlier events left: this calculation does not start a list of its own.
     MuestraAvisos(decl());
     Listado_Roca();

@@ -33,6 +33,18 @@ inline constexpr SueloCatalogo kSuelos[] = {
     {"2600", "800", "0.6", "40"},
 };
 
+// The service pressure on sound rock, from its strength qu (kN/m2, txtQu), the opening a and the
+// spacing s of its joints (mm, txtAp and txtS) and the width B (m) of what bears on it: r = a / s
+// up to 0.02, t = s / B / 1000 kept within 0.05 and 2, Ksp = (3 + t) / (10 sqrt(1 + 300 r)) and
+// qd = Ksp qu. The soil takes B from its footing's width, a pile from its diameter; `datoAncho`
+// names the field of B for the error of a zero width. Arithmetic the run time refuses throws the
+// run-time error naming the field that causes it (frame/Finitos.h).
+struct PresionRoca {
+    double ksp = 0;
+    double qd = 0;
+};
+PresionRoca CalculaPresionRoca(const Form& form, double ancho, std::string_view datoAncho);
+
 // The footing kinds, the rows of ComboCim (the list kCimiento).
 enum class TipoCimiento { Rectangular = 0, Corrida = 1, Circular = 2, Losa = 3 };
 
@@ -96,7 +108,6 @@ private:
     double Divide(double a, double b, std::string_view dato) const;
     double Finito(double x, std::string_view dato) const;
     double Raiz(double x, std::string_view dato) const;
-    [[noreturn]] void Falla(int numero, int mensaje, std::string_view dato) const;
 
     // The second form of the bearing factors, used by the depth and inclination factors.
     struct Factores {

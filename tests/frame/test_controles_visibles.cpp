@@ -189,7 +189,7 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmSuelo", "chkServ", -1, Kind::CheckBox, "Cumple las condiciones:"},
         // The rock rows, one family for the soil and the piles.
         {"frmSuelo", "txtKsp", -1, Kind::TextBox, "Parámetro Ksp"},
-        {"frmPilotes", "txtQd", -1, Kind::TextBox, "Presión de servicio en roca (kN/m2)"},
+        {"frmPilotes", "txtQd", -1, Kind::TextBox, "Presión servicio (kN/m2)"},
         {"frmPilotes", "txtRozam", 5, Kind::TextBox, "Rozamiento estrato 5 (º)"},
         {"frmPilotes", "cmbPil", 4, Kind::ComboBox, "Estrato de apoyo"},
         {"frmPilotes", "TxtQ", 5, Kind::TextBox, "Capacidad del pilote"},
