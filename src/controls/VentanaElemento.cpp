@@ -370,7 +370,7 @@ QWidget* VentanaElemento::CreaGrupo(const GrupoCampos& g)
                 // Many columns take narrow fields, so that the grid fits its column of the window.
                 if (auto* linea = qobject_cast<QLineEdit*>(w)) {
                     linea->setMinimumWidth(40);
-                    linea->setMaximumWidth(porFila > 2 ? 70 : 90);
+                    linea->setMaximumWidth(porFila > 3 ? 56 : porFila > 2 ? 70 : 90);
                 }
                 rejilla->addWidget(ConUnidad(*c, w), f, static_cast<int>(k) + 1);
             }

@@ -309,9 +309,9 @@ constexpr std::string_view kPilotesEstratos[] = {
     "txtEspesor(4)", "txtCohesion(4)", "txtRozam(4)", "txtSPT(4)", "txtDens(4)",
     "txtEspesor(5)", "txtCohesion(5)", "txtRozam(5)", "txtSPT(5)", "txtDens(5)",
 };
-constexpr std::string_view kPilotesEstratosColumnas[] = {"Estrato", "Espesor (m)", "Cohesión (kN/m2)", "Rozam. (º)", "N SPT",
-                                                         "Densidad (kN/m3)"};
-constexpr std::string_view kPilotesEstratosFilas[] = {"1", "2", "3", "4", "5", "Punta"};
+// The soil's figures by their symbols: cohesion c, angle of friction φ, unit weight γ.
+constexpr std::string_view kPilotesEstratosColumnas[] = {"", "Espesor (m)", "c (kN/m2)", "φ (º)", "N SPT", "γ (kN/m3)"};
+constexpr std::string_view kPilotesEstratosFilas[] = {"Estrato 1", "Estrato 2", "Estrato 3", "Estrato 4", "Estrato 5", "Punta"};
 constexpr std::string_view kPilotesCorte[] = {"PctEstratos", "ChNF", "TxtNF", "UCOK2", "UCOK1"};
 constexpr std::string_view kPilotesRoca[] = {"lblRoca", "lblQu", "txtQu", "txtS", "txtAp", "txtLe", "txtKsp", "txtQd"};
 constexpr int kMsgGrupoPilote = 1781;
