@@ -58,7 +58,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         {"ZACR", "6-frmZapCorr"}, {"HPIL", "12-frmPilHorm"}, {"HVIR", "13-frmVigRegHorm"}, {"HVPR", "14-frmVigPared"},
         {"FORR", "30-frmForjRet"}, {"FORP", "31-frmForMaci"}, {"ABAC", "32-frmAbaco"}, {"HMEN", "33-frmMensCorta"},
         {"ESCH", "34-frmEscHorm"}, {"FORU", "20-frmForjUnid"}, {"FORS", "21-frmForjSitu"},
-        {"APIL", "15-frmPilMet"}, {"AVIG", "16-frmVigMet"}};
+        {"APIL", "15-frmPilMet"}, {"AVIG", "16-frmVigMet"},
+        {"HBLA", "60-frmEnBlanco"}, {"ZLOS", "61-frmLosCime"}, {"ZAIS", "62-frmZap"}, {"ZACB", "63-frmZapComb"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)

@@ -105,7 +105,7 @@ TEST(ControlesVisibles, RowsAreUniqueAndStoredRowsNameExistingFields)
             EXPECT_EQ(c->kind(), v.kind) << v.nombre;
         }
     }
-    EXPECT_TRUE(ControlesVisibles("frmEnBlanco").empty());
+    EXPECT_TRUE(ControlesVisibles("frmNoHay").empty());
 }
 
 // Every common row names a field of that kind in at least one form's record: a misspelt name
