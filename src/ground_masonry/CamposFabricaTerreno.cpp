@@ -9,6 +9,7 @@
 #include "ground_masonry/MDint.h"
 #include "ground_masonry/Muros.h"
 #include "ground_masonry/Suelo.h"
+#include "ground_masonry/Zapatas.h"
 
 namespace vardena {
 namespace {
@@ -62,6 +63,22 @@ constexpr GrupoDef kGruposSuelo[] = {
     {"UCframeResult", 0, kSueloResultados},
 };
 
+
+// The strip footing's window: the wall, the footing with its section beside its sizes, the loads
+// per metre, the ground and the reinforcement.
+constexpr std::string_view kZapCorrMuro[] = {"OpTipoMuro", "TxCotaMuro"};
+constexpr std::string_view kZapCorrZapata[] = {"TxCotaAncho", "TxCotaAlto", "PtSeccZap"};
+constexpr std::string_view kZapCorrCargas[] = {"TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kZapataTerreno[] = {"Check1", "TxtQ(2)"};
+constexpr std::string_view kZapataArmadura[] = {"UCArmZap"};
+constexpr GrupoDef kGruposZapCorr[] = {
+    {"", kMsgGrupoElemento, kSueloTitulo, {}, 0},
+    {"UCframeMuro", 0, kZapCorrMuro, {}, 0},
+    {"UCframeCargas", 0, kZapCorrCargas, {}, 0},
+    {"UCframeTerreno", 0, kZapataTerreno, {}, 0},
+    {"UCframeZapata", 0, kZapCorrZapata, {}, 1},
+    {"UCframeArm", 0, kZapataArmadura, {}, 2},
+};
 
 // The stored fields of each form, in the order of its record.
 // The masonry forms' windows. Each has its masonry frame, with the button that opens the masonry
@@ -503,7 +520,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtQ", 9, "N"}, {kTx, "TxtQ", 10, "Mx"}, {kTx, "TxtQ", 11, "My"},
              {kTx, "TxtQ", 12, "Tensión admisible terreno"},
          }),
-         MenuDef{"Cimentacion", 2, "mnuZap", ""}},
+         MenuDef{"Cimentacion", 2, "mnuZap", ""}, {}, &CreaDe<Zapata>},
         {"frmZapComb", kCamposFrmZapComb,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Zapatas Combinadas", "Zapata Combinada 01-02", kRecubTerreno, kMinimosZapComb,
@@ -513,7 +530,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxCota", -1, "Cota (cm)"},
              {kTx, "TxtQ", 4, "Tensión admisible terreno"},
          }),
-         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}},
+         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}, {}, &CreaDe<Zapata>},
         {"frmZapCorr", kCamposFrmZapCorr,
          {true, true, PasoComprobacion::Bandera, false},
          "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr,
@@ -527,8 +544,16 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtQ", 0, "Carga axil N"},
              {kTx, "TxtQ", 1, "Momento M"},
              {kTx, "TxtQ", 2, "Tensión admisible terreno"},
+             {kFr, "UCframeMuro", -1, "Muro"},
+             {kFr, "UCframeZapata", -1, "Zapata"},
+             {kFr, "UCframeCargas", -1, "Cargas por metro"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCframeArm", -1, "Armadura"},
+             {kPc, "PtSeccZap", -1, ""},
+             {kZp, "UCArmZap", 0, "Armadura transversal (por metro)"},
+             {kZp, "UCArmZap", 1, "Armadura longitudinal"},
          }),
-         MenuDef{"Cimentacion", 4, "mnuZapCorr", ""}},
+         MenuDef{"Cimentacion", 4, "mnuZapCorr", ""}, kGruposZapCorr, &CreaDe<ZapCorr>},
         {"frmPilotes", kCamposFrmPilotes,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilotes", "Pilotes 01", kRecubTerreno, kMinimosPilotes,
