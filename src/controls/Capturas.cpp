@@ -128,6 +128,13 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         v->alCerrar = nullptr;
         v->close();
     }
+    // The isolated footing at a corner, with its neighbours and both centering beams.
+    if (VentanaForm* v = programa.AbreOpcion("ZAIS")) {
+        v->vista().Ejecuta([&f = v->form()] { f.At("OpPosPil", 0).Click(); });
+        escritas.push_back(Fotografia(v, carpeta, "64-frmZap-esquina"));
+        v->alCerrar = nullptr;
+        v->close();
+    }
     // The slab catalogue editor on the second row of the third system of prestressed joists.
     if (std::unique_ptr<Form> fichas = CargaForm(programa.app().decl, "frmForjUnid2")) {
         fichas->At("OpTipoFor", 1).SetOptionValue(true);

@@ -79,6 +79,131 @@ std::optional<Croquis> ZapCorr::CroquisDe(const Control& picture) const
                                 At("OpTipoMuro", 0).OptionValue(), carga);
 }
 
+bool HuecoEnUso(PosicionPilar p, int hueco)
+{
+    switch (p) {
+    case PosicionPilar::Esquina: return hueco >= 0 && hueco < kHuecosZapata;
+    case PosicionPilar::Borde: return hueco == 0 || hueco == 1;
+    case PosicionPilar::Centro: return hueco == 0;
+    }
+    return false;
+}
+
+bool VigaEnUso(PosicionPilar p, int viga)
+{
+    return (viga == 0 && p != PosicionPilar::Centro) || (viga == 1 && p == PosicionPilar::Esquina);
+}
+
+Zap::Zap(Declaraciones& d, const TablaForm& tabla) : Zapata(d, tabla)
+{
+    for (Control* c : Members("OpPosPil")) {
+        const int i = c->Index();
+        c->onClick = [this, i](Control&) { Evento("OpPosPil_Click", [this, i] { OpPosPil_Click(i); }); };
+    }
+    for (Control* c : Members("TxDimZap")) {
+        const int i = c->Index();
+        c->onChange = [this, i](Control&) { Evento("TxDimZap_Change", [this, i] { TxDimZap_Change(i); }); };
+    }
+    At("List1").onClick = [this](Control&) {
+        List1_Click();
+        CargaPropia();
+    };
+}
+
+PosicionPilar Zap::Posicion() const
+{
+    for (int i : {0, 1, 2})
+        if (const Control* o = Find("OpPosPil", i); o && o->OptionValue())
+            return static_cast<PosicionPilar>(i);
+    return PosicionPilar::Centro;
+}
+
+void Zap::Presenta()
+{
+    const PosicionPilar p = Posicion();
+    for (int k = 0; k < kHuecosZapata; ++k)
+        if (Control* m = Find("UCframeZap", k))
+            m->SetVisible(HuecoEnUso(p, k));
+    for (int v = 0; v < 2; ++v)
+        if (Control* m = Find("UCframeViga", v))
+            m->SetVisible(VigaEnUso(p, v));
+    // A plain tie is a choice only where there is a beam.
+    if (Control* r = Find("chkRiostra"))
+        r->SetVisible(p != PosicionPilar::Centro);
+}
+
+void Zap::CargaPropia()
+{
+    Zapata::CargaPropia();
+    Presenta();
+}
+
+void Zap::OpPosPil_Click(int) { Presenta(); }
+
+void Zap::TxDimZap_Change(int index)
+{
+    if (index < 0 || index >= 2 * kHuecosZapata)
+        return;
+    // The side along X is the width of the bars along Y, and the other way round.
+    const int armadura = index % 2 == 0 ? index + 1 : index - 1;
+    const double lado = std::trunc(std::fabs(ValComaCopy(At("TxDimZap", index).Text())));
+    if (Control* a = Find("UCArmZap", armadura))
+        a->Set("AnchoZap", FormatoNum(lado));
+}
+
+std::optional<Croquis> Zap::CroquisDe(const Control& picture) const
+{
+    if (picture.Name() != "PtPlantaZap")
+        return std::nullopt;
+    auto valor = [this](const char* nombre, int i) {
+        const Control* c = Find(nombre, i);
+        return c ? std::max(0.0, ValComaCopy(c->Text())) : 0.0;
+    };
+    constexpr double kEscalaPlanta = 3;  // twips a cm
+    constexpr double kAnchoViga = 40;    // cm, as drawn
+    const PosicionPilar p = Posicion();
+    const double dx = VigaEnUso(p, 0) ? valor("TxDist", 0) : 0;
+    const double dy = VigaEnUso(p, 1) ? valor("TxDist", 1) : 0;
+    // The centre of each slot's column, cm from the footing studied.
+    const double cx[] = {0, dx, 0, dx}, cy[] = {0, 0, dy, dy};
+    double medio = 0;
+    for (int k = 0; k < kHuecosZapata; ++k)
+        if (HuecoEnUso(p, k))
+            medio = std::max({medio, valor("TxDimZap", 2 * k) / 2, valor("TxDimZap", 2 * k + 1) / 2});
+    const int margen = kMargen;
+    auto tw = [&](double cm) { return static_cast<int>(std::lround(cm * kEscalaPlanta)); };
+    const int ox = margen + tw(medio), oy = margen + tw(medio);
+    Croquis c{2 * margen + tw(2 * medio + dx), 2 * margen + tw(2 * medio + dy), {}};
+    // The beams first, under the footings they tie.
+    for (int v = 0; v < 2; ++v) {
+        if (!VigaEnUso(p, v))
+            continue;
+        const int h = tw(kAnchoViga / 2);
+        if (v == 0)
+            c.Rectangulo(P::Hormigon, ox, oy - h, ox + tw(dx), oy + h);
+        else
+            c.Rectangulo(P::Hormigon, ox - h, oy, ox + h, oy + tw(dy));
+    }
+    for (int k = 0; k < kHuecosZapata; ++k) {
+        if (!HuecoEnUso(p, k))
+            continue;
+        const int x = ox + tw(cx[k]), y = oy + tw(cy[k]);
+        const int a = tw(valor("TxDimZap", 2 * k) / 2), b = tw(valor("TxDimZap", 2 * k + 1) / 2);
+        const int pa = tw(valor("TxPil", 2 * k) / 2), pb = tw(valor("TxPil", 2 * k + 1) / 2);
+        c.Rectangulo(P::Hormigon, x - a, y - b, x + a, y + b);
+        c.Rectangulo(P::Resalte, x - pa, y - pb, x + pa, y + pb);
+        if (k == 0) {
+            c.Cota({x - a, y + b + margen / 2}, {x + a, y + b + margen / 2}, FormatoNum(valor("TxDimZap", 0)));
+            c.Cota({x - a - margen / 2, y - b}, {x - a - margen / 2, y + b}, FormatoNum(valor("TxDimZap", 1)));
+        }
+    }
+    if (dx > 0)
+        c.Cota({ox, oy - tw(medio) - margen / 2}, {ox + tw(dx), oy - tw(medio) - margen / 2}, FormatoNum(dx));
+    if (dy > 0)
+        c.Cota({ox + tw(dx) + tw(medio) + margen / 2, oy}, {ox + tw(dx) + tw(medio) + margen / 2, oy + tw(dy)}, FormatoNum(dy));
+    return c;
+}
+
 Croquis SeccionZapataCorrida(double anchoMuro, double anchoZapata, double canto, bool fabrica, const std::string& carga)
 {
     // A wall wider than its footing is drawn as wide as the footing: the section stays readable.

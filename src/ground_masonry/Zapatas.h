@@ -50,6 +50,44 @@ public:
     std::optional<Croquis> CroquisDe(const Control& picture) const override;
 };
 
+// The isolated footing at a corner, an edge or the centre (OpPosPil 0, 1, 2). Its data stand in
+// four slots k: the footing studied (0), its neighbour along X (1), along Y (2) and the one across
+// the corner (3). Slot k has its plan sides TxDimZap(2k) along X and TxDimZap(2k + 1) along Y and
+// its depth TxDimZap(8 + k), cm; its column's sides TxPil(2k), TxPil(2k + 1); its column's loads
+// TxtQ(3k) to TxtQ(3k + 2) (N, Mx, My); its bars UCArmZap(2k) along X, spread over the side
+// along Y, and UCArmZap(2k + 1) along Y, spread over the side along X. The centering beams tie
+// the footing to its neighbours: along X at TxDist(0), bars UCViga(0), UCViga(1), stirrups
+// UCCercosViga(0), results TxtRes1(2), TxtRes1(3); along Y at TxDist(1), UCViga(2), UCViga(3),
+// UCCercosViga(1), TxtRes1(4), TxtRes1(5). Each slot and each beam stands in its frame,
+// UCframeZap(k), UCframeViga(0) and UCframeViga(1), which the position shows or hides.
+enum class PosicionPilar { Esquina = 0, Borde = 1, Centro = 2 };
+inline constexpr int kHuecosZapata = 4;
+
+class Zap : public Zapata {
+public:
+    Zap(Declaraciones& d, const TablaForm& tabla);
+
+    // Shows what the position uses: at the centre the footing alone; at an edge its neighbour
+    // along X and the beam to it; at a corner all four footings and both beams.
+    void OpPosPil_Click(int index);
+    // A plan side: the bars that cross it take it as their width.
+    void TxDimZap_Change(int index);
+    PosicionPilar Posicion() const;
+
+    // PtPlantaZap: the plan of the footings the position uses, their columns and beams, to scale.
+    std::optional<Croquis> CroquisDe(const Control& picture) const override;
+
+protected:
+    void CargaPropia() override;
+
+private:
+    void Presenta();
+};
+
+// Which slots and beams a position uses.
+bool HuecoEnUso(PosicionPilar p, int hueco);
+bool VigaEnUso(PosicionPilar p, int viga);
+
 // The section of a strip footing as PtSeccZap draws it: widths and depth in cm, the wall's kind
 // (true for masonry) and the load text shown over it.
 Croquis SeccionZapataCorrida(double anchoMuro, double anchoZapata, double canto, bool fabrica, const std::string& carga);

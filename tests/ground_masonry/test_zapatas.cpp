@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "application/Aplicacion.h"
 #include "base/FileIo.h"
@@ -154,6 +155,106 @@ TEST_F(Footings, TheStripFootingSectionIsToScale)
     EXPECT_EQ(k->trazos[5].texto, "N=40");
     Control otra(f.get(), Kind::PictureBox, "PtCargas", -1);
     EXPECT_FALSE(f->CroquisDe(otra));
+}
+
+}  // namespace
+}  // namespace vardena
+
+namespace vardena {
+namespace {
+
+// The isolated footing's position shows the footings and beams it uses, and the plan draws them.
+TEST_F(Footings, ThePositionOfTheColumnShowsWhatItUses)
+{
+    struct Caso {
+        int opcion;
+        bool huecos[4];
+        bool vigas[2];
+        int zapatasDibujadas;  // footings and columns: two rectangles each, then the beams
+        int vigasDibujadas;
+    };
+    const Caso casos[] = {
+        {0, {true, true, true, true}, {true, true}, 4, 2},     // corner
+        {1, {true, true, false, false}, {true, false}, 2, 1},  // edge
+        {2, {true, false, false, false}, {false, false}, 1, 0},  // centre
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.opcion);
+        auto f = Carga<Zap>("frmZap");
+        ASSERT_TRUE(f);
+        EXPECT_EQ(f->Posicion(), PosicionPilar::Centro) << "a new footing stands at the centre";
+        f->At("OpPosPil", c.opcion).Click();
+        EXPECT_EQ(static_cast<int>(f->Posicion()), c.opcion);
+        for (int k = 0; k < 4; ++k)
+            EXPECT_EQ(f->At("UCframeZap", k).Visible(), c.huecos[k]) << k;
+        for (int v = 0; v < 2; ++v)
+            EXPECT_EQ(f->At("UCframeViga", v).Visible(), c.vigas[v]) << v;
+        EXPECT_EQ(f->At("chkRiostra").Visible(), c.opcion != 2);
+        Control pic(f.get(), Kind::PictureBox, "PtPlantaZap", -1);
+        const auto k = f->CroquisDe(pic);
+        ASSERT_TRUE(k);
+        int hormigon = 0, pilares = 0;
+        for (const TrazoCroquis& t : k->trazos) {
+            hormigon += t.figura == FiguraCroquis::Poligono && t.papel == PapelCroquis::Hormigon;
+            pilares += t.figura == FiguraCroquis::Poligono && t.papel == PapelCroquis::Resalte;
+        }
+        EXPECT_EQ(pilares, c.zapatasDibujadas);
+        EXPECT_EQ(hormigon, c.zapatasDibujadas + c.vigasDibujadas);
+    }
+}
+
+// The plan to scale, 3 twips a cm with 400 around: at the centre a 140 x 140 footing is 420
+// twips a side; at an edge the neighbour 600 cm away widens the plan by 1800 twips.
+TEST_F(Footings, TheIsolatedFootingPlanIsToScale)
+{
+    auto f = Carga<Zap>("frmZap");
+    ASSERT_TRUE(f);
+    Control pic(f.get(), Kind::PictureBox, "PtPlantaZap", -1);
+    auto k = f->CroquisDe(pic);
+    ASSERT_TRUE(k);
+    EXPECT_EQ(k->ancho, 420 + 800);
+    EXPECT_EQ(k->alto, 420 + 800);
+    f->At("TxDimZap", 0).SetText("200");
+    f->At("OpPosPil", 1).Click();
+    k = f->CroquisDe(pic);
+    ASSERT_TRUE(k);
+    EXPECT_EQ(k->ancho, 600 + 1800 + 800);  // the widest half side, 100 cm, on both ends
+    EXPECT_EQ(k->alto, 600 + 800);
+}
+
+// A plan side is the width over which the bars across it are spread: side X of slot k feeds
+// UCArmZap(2k + 1), side Y UCArmZap(2k); the depths feed none.
+TEST_F(Footings, APlanSideSpreadsTheBarsAcrossIt)
+{
+    struct Caso {
+        int lado;
+        const char* valor;
+        int armadura;  // -1: none changes
+        const char* separacion;
+    };
+    const Caso casos[] = {
+        {0, "160", 1, "21.42857"},  // (160 - 10) / 7
+        {1, "120", 0, "15.71429"},  // (120 - 10) / 7
+        {6, "250", 7, "34.28571"},  // (250 - 10) / 7
+        {9, "80", -1, ""},
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.lado);
+        auto f = Carga<Zap>("frmZap");
+        ASSERT_TRUE(f);
+        std::vector<std::string> antes;
+        for (int i = 0; i < 8; ++i)
+            antes.push_back(f->At("UCArmZap", i).Get("Separacion"));
+        f->At("TxDimZap", c.lado).SetText(c.valor);
+        for (int i = 0; i < 8; ++i) {
+            if (i == c.armadura) {
+                EXPECT_EQ(f->At("UCArmZap", i).Get("Separacion"), c.separacion);
+                EXPECT_EQ(f->At("UCArmZap", i).Get("AnchoZap"), c.valor);
+            } else {
+                EXPECT_EQ(f->At("UCArmZap", i).Get("Separacion"), antes[static_cast<size_t>(i)]) << i;
+            }
+        }
+    }
 }
 
 }  // namespace
