@@ -107,6 +107,19 @@ constexpr GrupoDef kGruposZap[] = {
     {"", 1501, kCamposMateriales, {}, 1},
     {"UCframeCotas", 0, kZapCotas, {}, 1},
 };
+// The combined footing's window: the loads of each of its two columns, the ground, its
+// dimensions and its reinforcement.
+constexpr std::string_view kZapCombPilar1[] = {"TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kZapCombPilar2[] = {"TxtQ(3)", "TxtQ(2)"};
+constexpr std::string_view kZapCombTerreno[] = {"Check1", "TxtQ(4)"};
+constexpr GrupoDef kGruposZapComb[] = {
+    {"", kMsgGrupoElemento, kSueloTitulo, {}, 0},
+    {"UCframePilar(0)", 0, kZapCombPilar1, {}, 0},
+    {"UCframePilar(1)", 0, kZapCombPilar2, {}, 0},
+    {"UCframeTerreno", 0, kZapCombTerreno, {}, 0},
+    {"UCframeCotas", 0, kZapCotas, {}, 1},
+    {"UCframeArm", 0, kZapataArmadura, {}, 2},
+};
 
 // The stored fields of each form, in the order of its record.
 // The masonry forms' windows. Each has its masonry frame, with the button that opens the masonry
@@ -613,8 +626,17 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Visibles({EtiquetasZapata}, {
              {kTx, "TxCota", -1, "Cota (cm)"},
              {kTx, "TxtQ", 4, "Tensión admisible terreno"},
+             {kTx, "TxtQ", 0, "N"},
+             {kTx, "TxtQ", 1, "M"},
+             {kTx, "TxtQ", 2, "M"},
+             {kTx, "TxtQ", 3, "N"},
+             {kFr, "UCframePilar", 0, "Cargas en el pilar 1"},
+             {kFr, "UCframePilar", 1, "Cargas en el pilar 2"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCframeCotas", -1, "Cotas (cm)"},
+             {kFr, "UCframeArm", -1, "Armadura"},
          }),
-         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}, {}, &CreaDe<Zapata>},
+         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}, kGruposZapComb, &CreaDe<Zapata>},
         {"frmZapCorr", kCamposFrmZapCorr,
          {true, true, PasoComprobacion::Bandera, false},
          "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr,
