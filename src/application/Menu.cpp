@@ -102,12 +102,10 @@ const std::vector<std::pair<std::string, std::vector<ComandoElemento>>>& Familia
         for (const char* grupo : {"Hormigon", "Acero", "Madera", "Fabrica", "Cimentacion"}) {
             std::vector<std::pair<int, ComandoElemento>> comandos;
             for (const TablaForm& t : TablasCampos())
-                if (t.menu.grupo == grupo) {
-                    const int fila = FilaDeCatalogo(t.nombre);
+                if (t.menu.grupo == grupo)
                     comandos.push_back({t.menu.orden,
                                         {std::string(t.menu.item), std::string(t.menu.caption),
-                                         fila < 0 ? std::string() : Catalogo()[static_cast<size_t>(fila)].menu}});
-                }
+                                         std::string(MenuDeForm(t.nombre))}});
             std::sort(comandos.begin(), comandos.end(),
                       [](const auto& a, const auto& b) { return a.first < b.first; });
             std::vector<ComandoElemento> items;
@@ -156,10 +154,9 @@ std::string FormularioDeOpcion(std::string_view opcion)
         return "frmDatosProy";
     if (opcion == "LIST")
         return "Listado";
-    const int fila = FilaDeMenu(opcion);
-    if (fila < 0)
+    const std::string_view form = FormaDeMenu(opcion);
+    if (form.empty())
         return {};
-    const std::string_view form = Catalogo()[static_cast<size_t>(fila)].form;
     for (const TablaForm& t : TablasCampos())
         if (SameNameNoCase(t.nombre, form))
             return std::string(t.nombre);
@@ -358,9 +355,10 @@ void Menu::Form_Load()
         for (const auto& [familia, comandos] : FamiliasMenu())
             for (const ComandoElemento& c : comandos)
                 if (At(c.item).Caption().empty()) {
-                    const int fila = FilaDeMenu(c.codigo);
-                    At(c.item).SetCaption(fila < 0 ? c.codigo : d.CatalogoRotulo[static_cast<size_t>(fila)]);
+                    const std::string rotulo = RotuloDeMenu(d, c.codigo);
+                    At(c.item).SetCaption(rotulo.empty() ? c.codigo : rotulo);
                 }
+        RotulaFormasSinFila();
         LeeMarcas();
         PonEncimaSegunPreferencia();
         SituaCarpeta();
@@ -656,7 +654,18 @@ void Menu::Idioma_Click()
         LlenaCatalogo(d);
         List1_Click();
         TraduceForm(*this);
+        RotulaFormasSinFila();
     });
+}
+
+void Menu::RotulaFormasSinFila()
+{
+    // Their labels are messages, which no form block of the language pack names: a new
+    // language reaches them through the message table.
+    for (const auto& [familia, comandos] : FamiliasMenu())
+        for (const ComandoElemento& c : comandos)
+            if (c.caption.empty() && FilaDeMenu(c.codigo) < 0 && !FormaDeMenu(c.codigo).empty())
+                At(c.item).SetCaption(RotuloDeMenu(decl(), c.codigo));
 }
 
 void Menu::Salir_Click() { AbreOpcion(""); }

@@ -112,6 +112,8 @@ private:
     void Crea();
     void ConectaEventos();
     void LeeMarcas();
+    // The commands of the forms without a catalogue row take their label messages.
+    void RotulaFormasSinFila();
     void Preferencia(std::string_view item, std::string_view key);
     void FormatoCaptura(std::string_view item, std::string_view formato);
     void PonEncimaSegunPreferencia();

@@ -4,6 +4,8 @@
 #include "building/Acciones.h"
 #include "frame/Campos.h"
 #include "frame/ControlesVisibles.h"
+#include "frame/GruposVentana.h"
+#include "ground_masonry/EnBlanco.h"
 #include "works/Declaraciones.h"
 
 namespace vardena {
@@ -23,10 +25,45 @@ static_assert(CamposBienFormados(kCamposEnBlanco));
 constexpr auto kCamposLibreConMalla = UneCampos(kCamposLibre, {{"UCArmZap", {}, kZapatas}});
 static_assert(CamposBienFormados(kCamposLibreConMalla));
 
-constexpr TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
-                     PasoComprobacion paso, std::span<const CampoDef> campos, Listas listas = ListasHormigon())
+// Their windows: the materials, then the form's own data in Frame2, then the free text of the
+// result with its labels in FrmRes.
+constexpr std::string_view kLibreMateriales[] = {"CmbHorm", "CmbAcero", "lblControl", "cmbControl", "lblDat2", "CmbRecub"};
+constexpr std::string_view kLibreDatos[] = {"TxCercos", "txCuelgue", "UCArmZap"};
+constexpr std::string_view kLibreResultado[] = {"TxtRes1", "LblRes1", "LblRes2", "LblRes3"};
+constexpr GrupoDef kGruposLibre[] = {
+    {"", kMsgGrupoElemento, kCamposIdentidad},
+    {"Frame1", 0, kLibreMateriales},
+    {"Frame2", 0, kLibreDatos},
+    {"FrmRes", 0, kLibreResultado},
+};
+// The frames and labels they all show; the labels of the result tell the user what to write.
+const std::vector<ControlVisible>& EtiquetasLibre()
 {
-    return TablaForm{nombre, campos, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada, std::move(listas)};
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "Frame1", -1, "Materiales"},
+        {kFr, "Frame2", -1, "Datos"},
+        {kFr, "FrmRes", -1, "Resultados"},
+        {kLb, "lblControl", -1, "Nivel de control"},
+        {kLb, "lblDat2", -1, "Recubrimiento (mm.)"},
+        {kLb, "LblRes1", -1, "Resultado del cálculo"},
+        {kLb, "LblRes2", -1, "Escriba aquí el resultado;"},
+        {kLb, "LblRes3", -1, "se guarda con el elemento."},
+        {kLb, "lbTens", -1, ""},
+        {kTx, "TxtRes1", -1, "Resultado"},
+        {kTx, "TxCercos", -1, "Cercos"},
+        {kTx, "txCuelgue", -1, "Cuelgue"},
+        {kZp, "UCArmZap", -1, "Armadura"},
+    };
+    return filas;
+}
+
+constexpr TablaForm TablaLibre(std::string_view nombre, std::string_view caption, std::string_view titulo,
+                               PasoComprobacion paso, std::span<const CampoDef> campos, MenuDef menu,
+                               Listas listas = ListasHormigon())
+{
+    return TablaForm{nombre,   campos, {true, true, paso, true}, caption, titulo, kRecubEstructura, kNada,
+                     std::move(listas), {}, Despacho::Ninguno, true, Visibles({EtiquetasLibre}), menu, kGruposLibre,
+                     &CreaDe<EnBlanco>};
 }
 
 // The annexes questionnaire, sheet by sheet in the order of its document: rules in force and
@@ -246,14 +283,21 @@ std::span<const TablaForm> TablasDatosYLibres()
         TablaDatosProy(),
         // The blank element's concrete list starts at HA-25, behind its "Idem gral." row.
         TablaLibre("frmEnBlanco", "En Blanco", "En Blanco 01", PasoComprobacion::Ninguno,
-                   kCamposEnBlanco, ListasHormigon25()),
-        TablaLibre("frmLosCime", "Soleras Armadas", "Losa Cimentación 01", PasoComprobacion::Bandera, kCamposLibreConMalla),
-        TablaLibre("frmMArco", "Arcos Fábrica", "Arco Fábrica 01", PasoComprobacion::Bandera, kCamposLibre),
-        TablaLibre("frmMArma", "Fábrica Armada", "Fábrica Armada 01", PasoComprobacion::Bandera, kCamposLibre),
-        TablaLibre("frmSolArma", "Soleras Armadas", "Solera Armada 01", PasoComprobacion::Bandera, kCamposLibreConMalla),
-        TablaLibre("frmUniAto", "Uniones Atornilladas", "Unión Atornillada 01", PasoComprobacion::Bandera, kCamposLibre),
-        TablaLibre("frmUniSol", "Uniones Soldadas", "Unión Soldada 01", PasoComprobacion::Bandera, kCamposLibre),
-        TablaLibre("frmVigFlot", "Soleras Armadas", "Viga Flotante 01", PasoComprobacion::Bandera, kCamposLibreConMalla),
+                   kCamposEnBlanco, MenuDef{"Hormigon", 20, "mnuEnBlanco", ""}, ListasHormigon25()),
+        TablaLibre("frmLosCime", "Soleras Armadas", "Losa Cimentación 01", PasoComprobacion::Bandera, kCamposLibreConMalla,
+                   MenuDef{"Cimentacion", 20, "mnuLosCime", ""}),
+        TablaLibre("frmMArco", "Arcos Fábrica", "Arco Fábrica 01", PasoComprobacion::Bandera, kCamposLibre,
+                   MenuDef{"Fabrica", 20, "mnuMArco", ""}),
+        TablaLibre("frmMArma", "Fábrica Armada", "Fábrica Armada 01", PasoComprobacion::Bandera, kCamposLibre,
+                   MenuDef{"Fabrica", 21, "mnuMArma", ""}),
+        TablaLibre("frmSolArma", "Soleras Armadas", "Solera Armada 01", PasoComprobacion::Bandera, kCamposLibreConMalla,
+                   MenuDef{"Cimentacion", 21, "mnuSolArma", ""}),
+        TablaLibre("frmUniAto", "Uniones Atornilladas", "Unión Atornillada 01", PasoComprobacion::Bandera, kCamposLibre,
+                   MenuDef{"Acero", 20, "mnuUniAto", ""}),
+        TablaLibre("frmUniSol", "Uniones Soldadas", "Unión Soldada 01", PasoComprobacion::Bandera, kCamposLibre,
+                   MenuDef{"Acero", 21, "mnuUniSol", ""}),
+        TablaLibre("frmVigFlot", "Soleras Armadas", "Viga Flotante 01", PasoComprobacion::Bandera, kCamposLibreConMalla,
+                   MenuDef{"Cimentacion", 22, "mnuVigFlot", ""}),
     };
     static_assert(NombresUnicos(tablas), "every form of the family is defined once");
     return tablas;

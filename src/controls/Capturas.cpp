@@ -59,7 +59,8 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         {"FORR", "30-frmForjRet"}, {"FORP", "31-frmForMaci"}, {"ABAC", "32-frmAbaco"}, {"HMEN", "33-frmMensCorta"},
         {"ESCH", "34-frmEscHorm"}, {"FORU", "20-frmForjUnid"}, {"FORS", "21-frmForjSitu"},
         {"MUSO", "45-frmMuroH"}, {"MUCO", "46-frmMuroCont"}, {"MUAN", "47-frmMuroAnclado"}, {"TALU", "48-frmTalud"},
-        {"APIL", "15-frmPilMet"}, {"AVIG", "16-frmVigMet"}, {"DAPR", "17-frmDatosProy"}};
+        {"APIL", "15-frmPilMet"}, {"AVIG", "16-frmVigMet"}, {"DAPR", "17-frmDatosProy"},
+        {"HBLA", "60-frmEnBlanco"}, {"ZLOS", "61-frmLosCime"}, {"ZAIS", "62-frmZap"}, {"ZACB", "63-frmZapComb"}};
     for (const auto& [opcion, nombre] : ventanas) {
         VentanaForm* v = programa.AbreOpcion(opcion);
         if (!v)
@@ -125,6 +126,13 @@ std::vector<std::string> Capturas(Programa& programa, const std::string& carpeta
         EligePrimerRegistro(v);
         v->vista().Ejecuta([&f = v->form()] { f.At("Command1").Click(); });
         escritas.push_back(Fotografia(v, carpeta, "35-frmForjRet-forjado"));
+        v->alCerrar = nullptr;
+        v->close();
+    }
+    // The isolated footing at a corner, with its neighbours and both centering beams.
+    if (VentanaForm* v = programa.AbreOpcion("ZAIS")) {
+        v->vista().Ejecuta([&f = v->form()] { f.At("OpPosPil", 0).Click(); });
+        escritas.push_back(Fotografia(v, carpeta, "64-frmZap-esquina"));
         v->alCerrar = nullptr;
         v->close();
     }

@@ -50,13 +50,14 @@ const std::vector<FormPropio>& FormsPropios()
     return propios;
 }
 
-// The catalogue code of a form, "" for a form without a row.
+// The code of a form's records: its catalogue row's, or its own for a form with a free-text
+// result; "" for a form that keeps no record.
 std::string CodigoCatalogo(std::string_view name)
 {
     for (const auto& fila : Catalogo())
         if (SameNameNoCase(fila.form, name))
             return fila.code;
-    return {};
+    return std::string(CodigoDeRegistro(name));
 }
 
 // The names CreaForm knows: the catalogue's order first, then the forms without a row.

@@ -15,7 +15,7 @@ struct Declaraciones;
 
 struct FormInfo {
     std::string name;     // "frmZapCorr"
-    std::string code;     // catalogue code, "" for forms without a row
+    std::string code;     // code of its records, "" for forms that keep none
     std::string caption;  // the window's title
     int storedControls = 0;
 };

@@ -12,6 +12,7 @@
 #include "ground_masonry/Pilotes.h"
 #include "ground_masonry/Suelo.h"
 #include "ground_masonry/Talud.h"
+#include "ground_masonry/Zapatas.h"
 
 namespace vardena {
 namespace {
@@ -132,6 +133,63 @@ const std::vector<ControlVisible>& EtiquetasCotasSotanos()
     };
     return filas;
 }
+
+// The strip footing's window: the wall, the footing with its section beside its sizes, the loads
+// per metre, the ground and the reinforcement.
+constexpr std::string_view kZapCorrMuro[] = {"OpTipoMuro", "TxCotaMuro"};
+constexpr std::string_view kZapCorrZapata[] = {"TxCotaAncho", "TxCotaAlto", "PtSeccZap"};
+constexpr std::string_view kZapCorrCargas[] = {"TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kZapataTerreno[] = {"Check1", "TxtQ(2)"};
+constexpr std::string_view kZapataArmadura[] = {"UCArmZap"};
+constexpr GrupoDef kGruposZapCorr[] = {
+    {"", kMsgGrupoElemento, kSueloTitulo, {}, 0},
+    {"UCframeMuro", 0, kZapCorrMuro, {}, 0},
+    {"UCframeCargas", 0, kZapCorrCargas, {}, 0},
+    {"UCframeTerreno", 0, kZapataTerreno, {}, 0},
+    {"UCframeZapata", 0, kZapCorrZapata, {}, 1},
+    {"UCframeArm", 0, kZapataArmadura, {}, 2},
+};
+// The isolated footing's window: its position, the plan, then a frame for each footing the
+// position uses and one for each centering beam; the position shows and hides them.
+constexpr std::string_view kZapPosicion[] = {"OpPosPil", "chkRiostra"};
+constexpr std::string_view kZapPlanta[] = {"PtPlantaZap"};
+constexpr std::string_view kZapTerreno[] = {"Check1", "TxtQ(12)"};
+constexpr std::string_view kZapHueco0[] = {"TxDimZap(0)", "TxDimZap(1)", "TxDimZap(8)", "TxPil(0)", "TxPil(1)", "TxtQ(0)", "TxtQ(1)", "TxtQ(2)", "UCArmZap(0)", "UCArmZap(1)"};
+constexpr std::string_view kZapHueco1[] = {"TxDimZap(2)", "TxDimZap(3)", "TxDimZap(9)", "TxPil(2)", "TxPil(3)", "TxtQ(3)", "TxtQ(4)", "TxtQ(5)", "UCArmZap(2)", "UCArmZap(3)"};
+constexpr std::string_view kZapHueco2[] = {"TxDimZap(4)", "TxDimZap(5)", "TxDimZap(10)", "TxPil(4)", "TxPil(5)", "TxtQ(6)", "TxtQ(7)", "TxtQ(8)", "UCArmZap(4)", "UCArmZap(5)"};
+constexpr std::string_view kZapHueco3[] = {"TxDimZap(6)", "TxDimZap(7)", "TxDimZap(11)", "TxPil(6)", "TxPil(7)", "TxtQ(9)", "TxtQ(10)", "TxtQ(11)", "UCArmZap(6)", "UCArmZap(7)"};
+constexpr std::string_view kZapVigaX[] = {"TxDist(0)", "UCViga(0)", "UCViga(1)", "UCCercosViga(0)", "TxtRes1(2)", "TxtRes1(3)"};
+constexpr std::string_view kZapVigaY[] = {"TxDist(1)", "UCViga(2)", "UCViga(3)", "UCCercosViga(1)", "TxtRes1(4)", "TxtRes1(5)"};
+constexpr std::string_view kZapCotas[] = {"TxCota"};
+// Two columns: the footings' fields, each of them wide, down the first; the plan, the beams, the
+// materials and the dimensions down the second.
+constexpr GrupoDef kGruposZap[] = {
+    {"", kMsgGrupoElemento, kSueloTitulo, {}, 0},
+    {"UCframePos", 0, kZapPosicion, {}, 0},
+    {"UCframeTerreno", 0, kZapTerreno, {}, 0},
+    {"UCframeZap(0)", 0, kZapHueco0, {}, 0},
+    {"UCframeZap(1)", 0, kZapHueco1, {}, 0},
+    {"UCframeZap(2)", 0, kZapHueco2, {}, 0},
+    {"UCframeZap(3)", 0, kZapHueco3, {}, 0},
+    {"UCframePlanta", 0, kZapPlanta, {}, 1},
+    {"UCframeViga(0)", 0, kZapVigaX, {}, 1},
+    {"UCframeViga(1)", 0, kZapVigaY, {}, 1},
+    {"", 1501, kCamposMateriales, {}, 1},
+    {"UCframeCotas", 0, kZapCotas, {}, 1},
+};
+// The combined footing's window: the loads of each of its two columns, the ground, its
+// dimensions and its reinforcement.
+constexpr std::string_view kZapCombPilar1[] = {"TxtQ(0)", "TxtQ(1)"};
+constexpr std::string_view kZapCombPilar2[] = {"TxtQ(3)", "TxtQ(2)"};
+constexpr std::string_view kZapCombTerreno[] = {"Check1", "TxtQ(4)"};
+constexpr GrupoDef kGruposZapComb[] = {
+    {"", kMsgGrupoElemento, kSueloTitulo, {}, 0},
+    {"UCframePilar(0)", 0, kZapCombPilar1, {}, 0},
+    {"UCframePilar(1)", 0, kZapCombPilar2, {}, 0},
+    {"UCframeTerreno", 0, kZapCombTerreno, {}, 0},
+    {"UCframeCotas", 0, kZapCotas, {}, 1},
+    {"UCframeArm", 0, kZapataArmadura, {}, 2},
+};
 
 // The stored fields of each form, in the order of its record.
 // The masonry forms' windows. Each has its masonry frame, with the button that opens the masonry
@@ -619,8 +677,64 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtQ", 6, "N"}, {kTx, "TxtQ", 7, "Mx"}, {kTx, "TxtQ", 8, "My"},
              {kTx, "TxtQ", 9, "N"}, {kTx, "TxtQ", 10, "Mx"}, {kTx, "TxtQ", 11, "My"},
              {kTx, "TxtQ", 12, "Tensión admisible terreno"},
+             {kFr, "UCframeZap", 0, "Zapata estudiada"},
+             {kTx, "TxDimZap", 0, "Lado en X (cm)"},
+             {kTx, "TxDimZap", 1, "Lado en Y (cm)"},
+             {kTx, "TxDimZap", 8, "Canto (cm)"},
+             {kTx, "TxPil", 0, "Pilar en X (cm)"},
+             {kTx, "TxPil", 1, "Pilar en Y (cm)"},
+             {kZp, "UCArmZap", 0, "Armadura en X"},
+             {kZp, "UCArmZap", 1, "Armadura en Y"},
+             {kFr, "UCframeZap", 1, "Zapata contigua en X"},
+             {kTx, "TxDimZap", 2, "Lado en X (cm)"},
+             {kTx, "TxDimZap", 3, "Lado en Y (cm)"},
+             {kTx, "TxDimZap", 9, "Canto (cm)"},
+             {kTx, "TxPil", 2, "Pilar en X (cm)"},
+             {kTx, "TxPil", 3, "Pilar en Y (cm)"},
+             {kZp, "UCArmZap", 2, "Armadura en X"},
+             {kZp, "UCArmZap", 3, "Armadura en Y"},
+             {kFr, "UCframeZap", 2, "Zapata contigua en Y"},
+             {kTx, "TxDimZap", 4, "Lado en X (cm)"},
+             {kTx, "TxDimZap", 5, "Lado en Y (cm)"},
+             {kTx, "TxDimZap", 10, "Canto (cm)"},
+             {kTx, "TxPil", 4, "Pilar en X (cm)"},
+             {kTx, "TxPil", 5, "Pilar en Y (cm)"},
+             {kZp, "UCArmZap", 4, "Armadura en X"},
+             {kZp, "UCArmZap", 5, "Armadura en Y"},
+             {kFr, "UCframeZap", 3, "Zapata en diagonal"},
+             {kTx, "TxDimZap", 6, "Lado en X (cm)"},
+             {kTx, "TxDimZap", 7, "Lado en Y (cm)"},
+             {kTx, "TxDimZap", 11, "Canto (cm)"},
+             {kTx, "TxPil", 6, "Pilar en X (cm)"},
+             {kTx, "TxPil", 7, "Pilar en Y (cm)"},
+             {kZp, "UCArmZap", 6, "Armadura en X"},
+             {kZp, "UCArmZap", 7, "Armadura en Y"},
+             {kFr, "UCframeViga", 0, "Viga centradora X"},
+             {kFr, "UCframeViga", 1, "Viga centradora Y"},
+             {kFr, "UCframePos", -1, "Posición del pilar"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCframePlanta", -1, "Planta"},
+             {kFr, "UCframeCotas", -1, "Cotas (cm)"},
+             {kPc, "PtPlantaZap", -1, ""},
+             {kOp, "OpPosPil", 0, "Esquina"},
+             {kOp, "OpPosPil", 1, "Borde"},
+             {kOp, "OpPosPil", 2, "Centro"},
+             {kTx, "TxDist", 0, "Distancia (cm)"},
+             {kTx, "TxDist", 1, "Distancia (cm)"},
+             {kNd, "UCViga", 0, "Superior"},
+             {kNd, "UCViga", 1, "Inferior"},
+             {kNd, "UCViga", 2, "Superior"},
+             {kNd, "UCViga", 3, "Inferior"},
+             {kNs, "UCCercosViga", 0, "Cercos"},
+             {kNs, "UCCercosViga", 1, "Cercos"},
+             {kTx, "TxtRes1", 0, "Zapata"},
+             {kTx, "TxtRes1", 1, "Terreno"},
+             {kTx, "TxtRes1", 2, "Flector"},
+             {kTx, "TxtRes1", 3, "Cortante"},
+             {kTx, "TxtRes1", 4, "Flector"},
+             {kTx, "TxtRes1", 5, "Cortante"},
          }),
-         MenuDef{"Cimentacion", 2, "mnuZap", ""}},
+         MenuDef{"Cimentacion", 2, "mnuZap", ""}, kGruposZap, &CreaDe<Zap>},
         {"frmZapComb", kCamposFrmZapComb,
          {true, true, PasoComprobacion::SinArgumentos, false},
          "Zapatas Combinadas", "Zapata Combinada 01-02", kRecubTerreno, kMinimosZapComb,
@@ -629,8 +743,17 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Visibles({EtiquetasZapata}, {
              {kTx, "TxCota", -1, "Cota (cm)"},
              {kTx, "TxtQ", 4, "Tensión admisible terreno"},
+             {kTx, "TxtQ", 0, "N"},
+             {kTx, "TxtQ", 1, "M"},
+             {kTx, "TxtQ", 2, "M"},
+             {kTx, "TxtQ", 3, "N"},
+             {kFr, "UCframePilar", 0, "Cargas en el pilar 1"},
+             {kFr, "UCframePilar", 1, "Cargas en el pilar 2"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCframeCotas", -1, "Cotas (cm)"},
+             {kFr, "UCframeArm", -1, "Armadura"},
          }),
-         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}},
+         MenuDef{"Cimentacion", 3, "mnuZapComb", ""}, kGruposZapComb, &CreaDe<Zapata>},
         {"frmZapCorr", kCamposFrmZapCorr,
          {true, true, PasoComprobacion::Bandera, false},
          "Zapatas Corridas", "Zapata Corrida 01", kRecubTerreno, kMinimosZapCorr,
@@ -644,8 +767,16 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtQ", 0, "Carga axil N"},
              {kTx, "TxtQ", 1, "Momento M"},
              {kTx, "TxtQ", 2, "Tensión admisible terreno"},
+             {kFr, "UCframeMuro", -1, "Muro"},
+             {kFr, "UCframeZapata", -1, "Zapata"},
+             {kFr, "UCframeCargas", -1, "Cargas por metro"},
+             {kFr, "UCframeTerreno", -1, "Terreno"},
+             {kFr, "UCframeArm", -1, "Armadura"},
+             {kPc, "PtSeccZap", -1, ""},
+             {kZp, "UCArmZap", 0, "Armadura transversal (por metro)"},
+             {kZp, "UCArmZap", 1, "Armadura longitudinal"},
          }),
-         MenuDef{"Cimentacion", 4, "mnuZapCorr", ""}},
+         MenuDef{"Cimentacion", 4, "mnuZapCorr", ""}, kGruposZapCorr, &CreaDe<ZapCorr>},
         {"frmPilotes", kCamposFrmPilotes,
          {false, true, PasoComprobacion::SinArgumentos, false},
          "Pilotes", "Pilotes 01", kRecubTerreno, kMinimosPilotes,

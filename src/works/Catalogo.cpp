@@ -52,6 +52,21 @@ constexpr CatalogRow kFilas[] = {
         {35, "MH", "FRMMCERR", 898, "MURC", "Fábrica"},
 };
 
+// The forms whose result is a free text have no row: the contents list does not show their
+// records and the conversion leaves them alone. They still keep records, under codes of their
+// own that no row uses, and open from the family menus under menu codes of their own, with a
+// label of the message table.
+constexpr CatalogRow kSinFila[] = {
+        {-1, "HB", "FRMENBLANCO", 1526, "HBLA", "Hormigón"},
+        {-1, "LT", "FRMUNIATO", 1527, "AUAT", "Acero"},
+        {-1, "LD", "FRMUNISOL", 1528, "AUSO", "Acero"},
+        {-1, "MA", "FRMMARCO", 1529, "MARC", "Fábrica"},
+        {-1, "MR", "FRMMARMA", 1530, "MARM", "Fábrica"},
+        {-1, "ZL", "FRMLOSCIME", 1531, "ZLOS", "Cimentación"},
+        {-1, "ZS", "FRMSOLARMA", 1532, "ZSOL", "Cimentación"},
+        {-1, "ZF", "FRMVIGFLOT", 1533, "ZVFL", "Cimentación"},
+};
+
 // What the rest of the program takes for granted of the catalogue, checked when it compiles:
 // every row stands at its number; from row 1 on, a code, a form and a menu code each name one
 // row, so that a code maps to one form and back; form names are upper case, as the contents
@@ -78,6 +93,26 @@ consteval bool CatalogoBienFormado()
     return true;
 }
 static_assert(std::size(kFilas) == kCatalogRows, "the catalogue has one row for every element kind");
+// The codes and menu codes of the forms without a row are their own: no row and no other such
+// form uses them, so that a record's code still names one form.
+consteval bool SinFilaBienFormadas()
+{
+    for (size_t i = 0; i < std::size(kSinFila); ++i) {
+        const CatalogRow& a = kSinFila[i];
+        if (std::string_view(a.code).size() != 2 || std::string_view(a.menu).size() != 4)
+            return false;
+        for (const CatalogRow& f : kFilas)
+            if (std::string_view(a.code) == f.code || std::string_view(a.menu) == f.menu ||
+                std::string_view(a.form) == f.form)
+                return false;
+        for (size_t j = 0; j < i; ++j)
+            if (std::string_view(a.code) == kSinFila[j].code || std::string_view(a.menu) == kSinFila[j].menu ||
+                std::string_view(a.form) == kSinFila[j].form)
+                return false;
+    }
+    return true;
+}
+static_assert(SinFilaBienFormadas(), "a form without a row has a code and a menu code of its own");
 static_assert(CatalogoBienFormado(), "every catalogue row stands at its number, and its code, form and menu code are its own");
 
 }  // namespace
@@ -96,6 +131,11 @@ void LlenaCatalogo(Declaraciones& d)
     }
 }
 
+std::span<const CatalogRow> FormasSinFila()
+{
+    return kSinFila;
+}
+
 std::string CodigoDeForm(Declaraciones& d, std::string_view formName)
 {
     std::string upper(formName);
@@ -106,6 +146,9 @@ std::string CodigoDeForm(Declaraciones& d, std::string_view formName)
         if (form == upper)
             return d.CatalogoCodigo[i].empty() ? Catalogo()[i].code : d.CatalogoCodigo[i];
     }
+    for (const CatalogRow& r : kSinFila)
+        if (upper == r.form)
+            return r.code;
     d.ui.MsgBox(d.Msg(180), mb::Critical, d.Msg(165));
     Halt("form " + std::string(formName) + " has no row in the element catalogue");
 }
@@ -123,6 +166,60 @@ std::string_view CodigoEnCatalogo(std::string_view formName)
 {
     const int fila = FilaDeCatalogo(formName);
     return fila < 0 ? std::string_view() : std::string_view(Catalogo()[static_cast<size_t>(fila)].code);
+}
+
+namespace {
+
+// The row of a form in the catalogue (from row 1 on) or among the forms without one.
+const CatalogRow* RowDeForm(std::string_view formName)
+{
+    if (const int fila = FilaDeCatalogo(formName); fila >= 0)
+        return &Catalogo()[static_cast<size_t>(fila)];
+    for (const CatalogRow& r : kSinFila)
+        if (SameNameNoCase(r.form, formName))
+            return &r;
+    return nullptr;
+}
+
+const CatalogRow* RowDeMenu(std::string_view menuCode)
+{
+    if (menuCode.empty())
+        return nullptr;
+    for (const CatalogRow& r : kFilas)
+        if (menuCode == r.menu)
+            return &r;
+    for (const CatalogRow& r : kSinFila)
+        if (menuCode == r.menu)
+            return &r;
+    return nullptr;
+}
+
+}  // namespace
+
+std::string_view CodigoDeRegistro(std::string_view formName)
+{
+    const CatalogRow* r = RowDeForm(formName);
+    return r ? std::string_view(r->code) : std::string_view();
+}
+
+std::string_view MenuDeForm(std::string_view formName)
+{
+    const CatalogRow* r = RowDeForm(formName);
+    return r ? std::string_view(r->menu) : std::string_view();
+}
+
+std::string_view FormaDeMenu(std::string_view menuCode)
+{
+    const CatalogRow* r = RowDeMenu(menuCode);
+    return r ? std::string_view(r->form) : std::string_view();
+}
+
+std::string RotuloDeMenu(const Declaraciones& d, std::string_view menuCode)
+{
+    if (const int fila = FilaDeMenu(menuCode); fila >= 0)
+        return d.CatalogoRotulo[static_cast<size_t>(fila)];
+    const CatalogRow* r = RowDeMenu(menuCode);
+    return r ? d.Msg(r->label) : std::string();
 }
 
 int FilaDeMenu(std::string_view menuCode)

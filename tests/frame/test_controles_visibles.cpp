@@ -105,7 +105,7 @@ TEST(ControlesVisibles, RowsAreUniqueAndStoredRowsNameExistingFields)
             EXPECT_EQ(c->kind(), v.kind) << v.nombre;
         }
     }
-    EXPECT_TRUE(ControlesVisibles("frmEnBlanco").empty());
+    EXPECT_TRUE(ControlesVisibles("frmNoHay").empty());
 }
 
 // Every common row names a field of that kind in at least one form's record: a misspelt name
@@ -162,7 +162,8 @@ TEST(ControlesVisibles, StoredFieldsCarryTheirCaptions)
         {"frmZapComb", "UCArmZap", 3, Kind::UCZapatas, "Armadura"},
         {"frmZap", "TxtQ", 10, Kind::TextBox, "Mx"},
         // "#" stands for the member's index, so that options of one array read apart.
-        {"frmZap", "OpPosPil", 2, Kind::OptionButton, "Posición del pilar 2"},
+        {"frmMuros", "OpTramo", 2, Kind::OptionButton, "Tramo 2"},
+        {"frmZap", "OpPosPil", 2, Kind::OptionButton, "Centro"},
         // The frame's beams are numbered from 1, as the plan beside them numbers them.
         {"frmVigRegHorm", "optViga", 8, Kind::OptionButton, "Viga 9"},
         {"frmMuroH", "TxCotaAncho", -1, Kind::TextBox, "Ancho de la zapata (cm)"},

@@ -183,12 +183,75 @@ TEST_P(EveryCatalogueForm, LoadedFormSavesTheTableInOrder)
 INSTANTIATE_TEST_SUITE_P(Tables, EveryCatalogueForm, ::testing::ValuesIn(FormsDelCatalogo()),
                          [](const auto& info) { return NombreDe(info.param); });
 
-// The free-text forms have no catalogue row: loading one ends the program after message 180.
-TEST(FormTables, FreeTextFormsCannotLoadWithoutACatalogueRow)
+// The free-text forms have no catalogue row but codes of their own: each loads with its
+// defaults, lists the results files of its code, and reads, saves and reads back a record. The
+// save writes the text as the results file too, so that the element is listed after it.
+TEST(FormTables, FreeTextFormsLoadReadAndSaveUnderTheirOwnCodes)
+{
+    struct Caso {
+        const char* form;
+        const char* codigo;
+        const char* titulo;  // the default title
+        const char* extra;   // a control of its own, "" for none
+    };
+    const Caso casos[] = {
+        {"frmEnBlanco", "HB", "En Blanco 01", "TxCercos"},  {"frmLosCime", "ZL", "Losa Cimentación 01", "UCArmZap"},
+        {"frmMArco", "MA", "Arco Fábrica 01", ""},          {"frmMArma", "MR", "Fábrica Armada 01", ""},
+        {"frmSolArma", "ZS", "Solera Armada 01", "UCArmZap"}, {"frmUniAto", "LT", "Unión Atornillada 01", ""},
+        {"frmUniSol", "LD", "Unión Soldada 01", ""},        {"frmVigFlot", "ZF", "Viga Flotante 01", "UCArmZap"},
+    };
+    for (const Caso& c : casos) {
+        SCOPED_TRACE(c.form);
+        ObraDePrueba obra;
+        auto form = CargaForm(obra.d(), c.form);
+        ASSERT_NE(form, nullptr);
+        auto& el = dynamic_cast<ElementForm&>(*form);
+        EXPECT_EQ(el.At("txtTitulo").Text(), c.titulo);
+        EXPECT_EQ(el.At("List1").ListCount(), 0);
+        el.At("txtTitulo").SetText("Caso");
+        el.At("CmbHorm").SetListIndex(3);
+        el.At("TxtRes1").SetText("Texto libre");
+        if (std::string_view(c.extra) == "TxCercos")
+            el.At("TxCercos").SetText("c6 a 15");
+        if (std::string_view(c.extra) == "UCArmZap")
+            el.At("UCArmZap").Set("NumBarras", "10");
+        el.CmdCalcular_Click();
+        const std::string registro = obra.dir / (std::string("Caso.~") + c.codigo);
+        EXPECT_EQ(el.UltimoGuardado(), registro);
+        EXPECT_TRUE(std::filesystem::exists(obra.dir / (std::string("Caso.l") + c.codigo)));
+        EXPECT_TRUE(obra.app.ui.boxes.empty());
+
+        // A new window lists the element, reads it back, and asks before saving over it.
+        auto otra = CargaForm(obra.d(), c.form);
+        auto& el2 = dynamic_cast<ElementForm&>(*otra);
+        ASSERT_EQ(el2.At("List1").ListCount(), 1);
+        el2.At("List1").SetListIndex(0);
+        el2.List1_Click();
+        EXPECT_EQ(el2.At("CmbHorm").ListIndex(), 3);
+        EXPECT_EQ(el2.At("TxtRes1").Text(), "Texto libre");
+        if (std::string_view(c.extra) == "TxCercos") {
+            EXPECT_EQ(el2.At("TxCercos").Text(), "c6 a 15");
+        }
+        if (std::string_view(c.extra) == "UCArmZap") {
+            EXPECT_EQ(el2.At("UCArmZap").Get("NumBarras"), "10");
+        }
+        EXPECT_NE(el2.At("RichTextBox1").Text().find("Texto libre"), std::string::npos);
+        obra.app.ui.answers.push_back(mb::No);
+        el2.At("TxtRes1").SetText("Otro");
+        el2.CmdCalcular_Click();
+        ASSERT_EQ(obra.app.ui.boxes.size(), 1u);
+        EXPECT_EQ(obra.app.ui.boxes[0].style, mb::YesNo | mb::Exclamation);
+        EXPECT_EQ(el2.UltimoGuardado(), "");
+        EXPECT_NE(ReadDiskText(registro).find("Texto libre"), std::string::npos);
+    }
+}
+
+// A name that is no form of the catalogue nor one of the free-text forms halts after message 180.
+TEST(FormTables, CodeOfANameOutsideTheCatalogueHalts)
 {
     ObraDePrueba obra;
     obra.d().Mensajes[180] = "Formulario desconocido";
-    EXPECT_THROW(CargaForm(obra.d(), "frmEnBlanco"), ProgramHalt);
+    EXPECT_THROW(CodigoDeForm(obra.d(), "frmNoHay"), ProgramHalt);
     ASSERT_EQ(obra.app.ui.boxes.size(), 1u);
     EXPECT_EQ(obra.app.ui.boxes[0].prompt, "Formulario desconocido");
     EXPECT_EQ(obra.app.ui.boxes[0].style, mb::Critical);
@@ -204,7 +267,7 @@ TEST(FormTables, ListaFormulariosCountsEveryMember)
     for (const auto& t : TablasCampos()) {
         ASSERT_TRUE(byName.count(std::string(t.nombre))) << t.nombre;
         const FormInfo& f = byName[std::string(t.nombre)];
-        EXPECT_EQ(f.code, CodigoEnCatalogo(t.nombre));
+        EXPECT_EQ(f.code, CodigoDeRegistro(t.nombre));
         EXPECT_EQ(f.storedControls, NumeroControles(t)) << t.nombre;
         EXPECT_EQ(f.caption, CaptionForm(t.nombre));
     }

@@ -37,11 +37,40 @@ TEST(Catalogue, RowsCodesAndForms)
     EXPECT_EQ(FilaDeMenu("NADA"), -1);
 }
 
+// The forms with a free-text result have no row but codes of their own, which the contents list
+// and the menus reach as told here; any other name outside the catalogue halts.
+TEST(Catalogue, FreeTextFormsKeepCodesOfTheirOwn)
+{
+    test::TestApp app;
+    app.decl.Mensajes[1531] = "Losas de cimentación";
+    struct Caso {
+        const char* form;
+        const char* codigo;
+        const char* menu;
+    };
+    for (const Caso& c : {Caso{"frmEnBlanco", "HB", "HBLA"}, Caso{"frmLosCime", "ZL", "ZLOS"}, Caso{"frmMArco", "MA", "MARC"},
+                          Caso{"frmMArma", "MR", "MARM"}, Caso{"frmSolArma", "ZS", "ZSOL"}, Caso{"frmUniAto", "LT", "AUAT"},
+                          Caso{"frmUniSol", "LD", "AUSO"}, Caso{"frmVigFlot", "ZF", "ZVFL"}}) {
+        EXPECT_EQ(CodigoDeForm(app.decl, c.form), c.codigo) << c.form;
+        EXPECT_EQ(CodigoDeRegistro(c.form), c.codigo) << c.form;
+        EXPECT_EQ(CodigoEnCatalogo(c.form), "") << c.form;
+        EXPECT_EQ(MenuDeForm(c.form), c.menu) << c.form;
+        EXPECT_TRUE(SameNameNoCase(FormaDeMenu(c.menu), c.form)) << c.menu;
+        EXPECT_EQ(FilaDeMenu(c.menu), -1) << c.menu;
+    }
+    EXPECT_EQ(RotuloDeMenu(app.decl, "ZLOS"), "Losas de cimentación");
+    EXPECT_EQ(MenuDeForm("frmZapCorr"), "ZACR");
+    EXPECT_EQ(FormaDeMenu("ZACR"), "FRMZAPCORR");
+    EXPECT_EQ(FormaDeMenu(""), "");
+    EXPECT_EQ(CodigoDeRegistro("frmHormigon"), "");
+    EXPECT_TRUE(app.ui.boxes.empty());
+}
+
 TEST(Catalogue, FormWithoutARowHalts)
 {
     test::TestApp app;
     app.decl.Mensajes[180] = "Formulario fuera del catálogo";
-    EXPECT_THROW(CodigoDeForm(app.decl, "frmVigFlot"), ProgramHalt);
+    EXPECT_THROW(CodigoDeForm(app.decl, "frmNoHay"), ProgramHalt);
     ASSERT_EQ(app.ui.boxes.size(), 1u);
     EXPECT_EQ(app.ui.boxes[0].style, mb::Critical);
 }

@@ -196,13 +196,15 @@ TEST(Menu, ElementMenusHoldTheirCommandsInOrder)
         "Hormigon: VigasH Vigas HVIG; VigasHR Vigas Regulares HVIR; PilaresH Pilares HPIL; "
         "Forjado_Unidireccional Forjado Unidireccional FORU; mnuForjSitu Forjado in situ FORS; "
         "Forjado_Reticular Forjado Reticular FORR; mnuForjMacizo Placa maciza FORP; Abacos Ábacos ABAC; "
-        "Mensula Ménsula Corta HMEN; Vigapared Viga Pared HVPR; mnuEscal Escaleras ESCH; "
+        "Mensula Ménsula Corta HMEN; Vigapared Viga Pared HVPR; mnuEscal Escaleras ESCH; mnuEnBlanco  HBLA; "
         "mnuHormig Características Mecánicas frmHormigon; \n"
-        "Acero: mnuVigMet  AVIG; mnuPilMet  APIL; mnuBasMet  ABAS; mnuForjAcer  FORA; mnuEscMet  ESCA; \n"
+        "Acero: mnuVigMet  AVIG; mnuPilMet  APIL; mnuBasMet  ABAS; mnuForjAcer  FORA; mnuEscMet  ESCA; "
+        "mnuUniAto  AUAT; mnuUniSol  AUSO; \n"
         "Madera: mnuVigMade  MVIG; mnuPilMade  MPIL; mnuForMade  FORM; mnuEscMade  ESCM; \n"
-        "Fabrica: mnuMuros  MURF; mnuMDint  MDIN; mnuMCerr  MURC; \n"
+        "Fabrica: mnuMuros  MURF; mnuMDint  MDIN; mnuMCerr  MURC; mnuMArco  MARC; mnuMArma  MARM; \n"
         "Cimentacion: mnuSuelo  TERR; mnuZap  ZAIS; mnuZapComb  ZACB; mnuZapCorr  ZACR; mnuPilotes  ZPIL; "
-        "mnuMuroH  MUSO; mnuMuroCont  MUCO; mnuMuroAnclado  MUAN; mnuTalud  TALU; \n";
+        "mnuMuroH  MUSO; mnuMuroCont  MUCO; mnuMuroAnclado  MUAN; mnuTalud  TALU; mnuLosCime  ZLOS; "
+        "mnuSolArma  ZSOL; mnuVigFlot  ZVFL; \n";
     std::string visto;
     for (const auto& [familia, comandos] : FamiliasMenu()) {
         visto += familia + ":";
