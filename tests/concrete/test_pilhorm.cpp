@@ -263,7 +263,7 @@ TEST_F(Column, SwitchingPositionsKeepsEveryPositionsDistances)
 }
 
 // The design loads of the panel: the moments 0, the axial force 40 and the enclosure 800 kg/m,
-// each in the field of its meaning.
+// each in the field of its meaning; the distances of each position and the storey height.
 TEST_F(Column, DesignLoadsStandInTheFieldsOfTheirMeaning)
 {
     auto f = Load();
@@ -271,6 +271,9 @@ TEST_F(Column, DesignLoadsStandInTheFieldsOfTheirMeaning)
     for (const auto& [i, texto] : esperados)
         EXPECT_EQ(f->At("TxtQ", i).designText, texto) << i;
     EXPECT_EQ(f->At("TxtQ", 2).Text(), "40");
+    const char* luces[] = {"4.50", "4.50", "5.00", "5.00", "4.60", "5.10", "1.10", "1.00", "5.15", "1.00", "4.50", "4.50", "3.10"};
+    for (int i = 0; i < 13; ++i)
+        EXPECT_EQ(f->At("LePil", i).designText, luces[i]) << "LePil(" << i << ")";
 }
 
 TEST_F(Column, TypedLoadsAreRecalculatedAndNoEventRunsWhileLoading)
