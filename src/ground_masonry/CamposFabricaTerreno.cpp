@@ -114,6 +114,32 @@ constexpr GrupoDef kGruposTalud[] = {
     {"UCframe2", 0, kTaludResultados, {}, 1},
 };
 
+// The frames every wall that holds ground has: the section drawn, its reinforcement, the ground's
+// allowable stress and the loads on its head.
+const std::vector<ControlVisible>& EtiquetasMarcosMuroTerreno()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
+        {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
+        {kFr, "UCframeArmado", -1, "Armado"},
+        {kPc, "PicMuro", -1, ""},
+    };
+    return filas;
+}
+
+// The backfill of a wall and its toe and heel.
+const std::vector<ControlVisible>& EtiquetasRellenoMuro()
+{
+    static const std::vector<ControlVisible> filas = {
+        {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
+        {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
+        {kFr, "UCframeRelleno", -1, "Material relleno"},
+        {kFr, "UCframeDelta", -1, "Rozamiento muro-relleno"},
+        {kFr, "UCframeSeccion", -1, "Sección del muro"},
+    };
+    return filas;
+}
+
 // The coordinates of a basement wall, three for each storey from the highest down.
 const std::vector<ControlVisible>& EtiquetasCotasSotanos()
 {
@@ -846,17 +872,9 @@ std::span<const TablaForm> TablasFabricaTerreno()
          "Muro Hormigón", "Muro Sótano 01", kRecubTerreno, kMinimosMuro,
          Listas{{"CmbTerr", -1, kRelleno}} + ListasMuro() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie}, Despacho::Registros, true,
-         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos}, {
+         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos,
+                   EtiquetasMarcosMuroTerreno, EtiquetasRellenoMuro}, {
              {kTx, "TxtQ", 3, "Carga coronación"},
-             {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
-             {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
-             {kFr, "UCframeRelleno", -1, "Material relleno"},
-             {kFr, "UCframeDelta", -1, "Rozamiento muro-relleno"},
-             {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
-             {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
-             {kFr, "UCframeSeccion", -1, "Sección del muro"},
-             {kFr, "UCframeArmado", -1, "Armado"},
-             {kPc, "PicMuro", -1, ""},
          }),
          MenuDef{"Cimentacion", 6, "mnuMuroH", ""}, kGruposMuroH, &CreaDe<MuroTerreno>},
         {"frmMuroCont", kCamposFrmMuroCont,
@@ -866,7 +884,7 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Listas{{"cmbTipo", -1, kTipoMuroContencion}, {"CmbTerreno", -1, kTerreno}, {"CmbTerr", -1, kRellenoContencion}} + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Superficie, Magnitud::Tension}, Despacho::Registros, true,
          // The retaining wall, of concrete or masonry, with the ground under it and the backfill.
-         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro}, {
+         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasRelleno, EtiquetasMuro, EtiquetasMarcosMuroTerreno, EtiquetasRellenoMuro}, {
              {kCb, "cmbTipo", -1, "Tipo de muro"},
              {kCk, "ChkMortero", -1, "Fábrica con mortero"},
              {kTx, "TxtDensFabr", -1, "Densidad fábrica (kg/m3)"},
@@ -887,17 +905,8 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxCotaMuro", 0, "Altura del muro (cm)"},
              {kTx, "TxCotaMuro", 1, "Espesor en coronación (cm)"},
              {kTx, "TxCotaMuro", 2, "Espesor en base (cm)"},
-             {kTx, "TxVuelo", 0, "Vuelo de la puntera (cm)"},
-             {kTx, "TxVuelo", 1, "Vuelo del talón (cm)"},
              {kFr, "UCframeTipo", -1, "Tipo de muro"},
              {kFr, "UCframeTerreno", -1, "Terreno de cimentación"},
-             {kFr, "UCframeRelleno", -1, "Material relleno"},
-             {kFr, "UCframeDelta", -1, "Rozamiento muro-relleno"},
-             {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
-             {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
-             {kFr, "UCframeSeccion", -1, "Sección del muro"},
-             {kFr, "UCframeArmado", -1, "Armado"},
-             {kPc, "PicMuro", -1, ""},
          }),
          MenuDef{"Cimentacion", 7, "mnuMuroCont", ""}, kGruposMuroCont, &CreaDe<MuroTerreno>},
         {"frmMuroAnclado", kCamposFrmMuroAnclado,
@@ -907,7 +916,8 @@ std::span<const TablaForm> TablasFabricaTerreno()
          Listas{{"CmbTalud", -1, kTalud}, {"cmbTerz", -1, kTerrenoAnclado}} + ListasMuro() + ListasHormigon(),
          {Magnitud::Lineal, Magnitud::Momento, Magnitud::Tension, Magnitud::Superficie, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Fuerza, Magnitud::Superficie}, Despacho::Registros, false,
          // The anchored wall: the ground it holds and, on each level, an anchor.
-         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos}, {
+         Visibles({EtiquetasZapata, EtiquetasZapataBajoMuro, EtiquetasMuro, EtiquetasMuroDePlantas, EtiquetasCotasSotanos,
+                   EtiquetasMarcosMuroTerreno}, {
              {kCb, "CmbTalud", -1, "Tipo de terreno"},
              {kTx, "TxtDensidad", -1, "Densidad terreno (kg/m3)"},
              {kTx, "TxtAngulo", -1, "Ángulo rozamiento interno (º)"},
@@ -931,12 +941,8 @@ std::span<const TablaForm> TablasFabricaTerreno()
              {kTx, "TxtSep", 3, "Separación 4 (cm)"},
              {kFr, "UCframeTerreno", -1, "Terreno"},
              {kFr, "UCSuelo", -1, "Definición de empujes"},
-             {kFr, "UCframeTension", -1, "Tensión admisible terreno"},
-             {kFr, "UCframeCargas", -1, "Cargas coronación por metro"},
              {kFr, "UCfrSep", -1, "Esquema muro"},
              {kFr, "frmAnclaje", -1, "Anclajes"},
-             {kFr, "UCframeArmado", -1, "Armado"},
-             {kPc, "PicMuro", -1, ""},
          }),
          MenuDef{"Cimentacion", 8, "mnuMuroAnclado", ""}, kGruposMuroAnclado, &CreaDe<MuroTerreno>},
         {"frmTalud", kCamposFrmTalud,
