@@ -235,16 +235,8 @@ static_assert(CamposBienFormados(kCamposFrmPilHorm));
 // the four distances of the chosen position (each position's in a frame of its own, which only
 // that position shows), the section and its bars, the stirrups, the loads and the enclosure,
 // which only a column on the façade carries. Materials under the level, results last.
-constexpr int kMsgGrupoMateriales = 1501;
-constexpr std::string_view kPilarNivel[] = {"txtTitulo", "CmbPlanta", "ChPilSup", "LePil(12)"};
-constexpr std::string_view kPilarPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
-constexpr std::string_view kPilarLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
-constexpr std::string_view kPilarLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
-constexpr std::string_view kPilarLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
 constexpr std::string_view kPilarSeccion[] = {"PctCuadr", "PctCir", "Pctllave", "CmbForma", "txtTramo", "UCArmPilar", "ChPil", "cmbesviada", "Lbnota"};
 constexpr std::string_view kPilarCercos[] = {"UCCercos", "UCNumDiamSep1"};
-constexpr std::string_view kPilarEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
-constexpr std::string_view kPilarCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
 constexpr std::string_view kPilarResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3", "txtW"};
 constexpr GrupoDef kGruposPilHorm[] = {
     {"", kMsgGrupoElemento, kPilarNivel, "", 0},

@@ -64,6 +64,16 @@ struct MaterialesControl {
 };
 MaterialesControl MaterialesDe(Form& form);
 
+// What every column window of a storey shows alike, whatever its material: its level, the
+// design loads and the enclosure, the position in plan and the distances of each position.
+inline constexpr std::string_view kPilarNivel[] = {"txtTitulo", "CmbPlanta", "ChPilSup", "LePil(12)"};
+inline constexpr std::string_view kPilarEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
+inline constexpr std::string_view kPilarCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
+inline constexpr std::string_view kPilarPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
+inline constexpr std::string_view kPilarLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
+inline constexpr std::string_view kPilarLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
+inline constexpr std::string_view kPilarLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
+
 class PilHorm : public ElementForm {
 public:
     PilHorm(Declaraciones& d, const TablaForm& tabla);

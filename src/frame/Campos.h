@@ -200,7 +200,11 @@ inline constexpr std::string_view kCamposIdentidad[] = {"txtTitulo", "CmbPlanta"
 inline constexpr std::string_view kCamposMateriales[] = {"CmbHorm",        "CmbAcero", "cmbControl", "CmbRecub",
                                                          "cmbAceroPerfil", "CmbResis", "CmbServi",   "CmbAcP"};
 inline constexpr std::string_view kCamposResultados[] = {"TxtRes*", "RichTextBox*"};
-inline constexpr GrupoDef kGruposAlPrincipio[] = {{"", 1500, kCamposIdentidad}, {"", 1501, kCamposMateriales}};
+// The heading of the group of the element's identity (its title, its level).
+inline constexpr int kMsgGrupoElemento = 1500;
+// The heading of the group of the element's materials.
+inline constexpr int kMsgGrupoMateriales = 1501;
+inline constexpr GrupoDef kGruposAlPrincipio[] = {{"", kMsgGrupoElemento, kCamposIdentidad}, {"", kMsgGrupoMateriales, kCamposMateriales}};
 inline constexpr GrupoDef kGruposAlFinal[] = {{"UCframe2", 1508, kCamposResultados}};
 
 // The definition of a form: its name, its stored fields in the order of its

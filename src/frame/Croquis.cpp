@@ -1,5 +1,7 @@
 #include "frame/Croquis.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace vardena {
@@ -39,6 +41,27 @@ void Croquis::Apaisa(double proporcion)
         for (PuntoCroquis& p : t.puntos)
             p.x += dx;
     ancho = ancho2;
+}
+
+PuntoCroquis EscalaCroquis::operator()(double x, double y) const
+{
+    return {margen + static_cast<int>(std::lround((x - xmin) * s)), margen + static_cast<int>(std::lround((y - ymin) * s))};
+}
+
+Croquis LienzoEscalado(double xmin, double xmax, double ymin, double ymax, double lado, int margen, EscalaCroquis& e)
+{
+    const double ancho = std::max(xmax - xmin, 1.0), alto = std::max(ymax - ymin, 1.0);
+    e = {xmin, ymin, lado / std::max(ancho, alto), margen};
+    return {static_cast<int>(ancho * e.s) + 2 * margen, static_cast<int>(alto * e.s) + 2 * margen, {}};
+}
+
+void PoligonoEscalado(Croquis& c, PapelCroquis papel, const EscalaCroquis& e,
+                      std::initializer_list<std::pair<double, double>> puntos)
+{
+    TrazoCroquis t{FiguraCroquis::Poligono, papel, {}};
+    for (const auto& [x, y] : puntos)
+        t.puntos.push_back(e(x, y));
+    c.trazos.push_back(std::move(t));
 }
 
 }  // namespace vardena

@@ -4,7 +4,9 @@
 // what is drawn; the window scales the whole into its room, keeping its proportions, and gives
 // each part its colour.
 
+#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vardena {
@@ -60,5 +62,19 @@ struct Croquis {
     // so that a plan that is nearly square takes a band of the window as low as the others.
     void Apaisa(double proporcion);
 };
+
+// A sketch drawn from real lengths (cm, y downwards): the box xmin..xmax by ymin..ymax fitted
+// with its longer side at `lado` twips and `margen` twips round it.
+struct EscalaCroquis {
+    double xmin = 0, ymin = 0, s = 1;
+    int margen = 0;
+    PuntoCroquis operator()(double x, double y) const;
+};
+// The empty sketch of the box, and in `e` the scale that draws into it. A side shorter than 1
+// counts as 1.
+Croquis LienzoEscalado(double xmin, double xmax, double ymin, double ymax, double lado, int margen, EscalaCroquis& e);
+// A closed, filled shape through points in real lengths.
+void PoligonoEscalado(Croquis& c, PapelCroquis papel, const EscalaCroquis& e,
+                      std::initializer_list<std::pair<double, double>> puntos);
 
 }  // namespace vardena

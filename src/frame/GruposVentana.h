@@ -7,11 +7,10 @@
 #include <vector>
 
 #include "base/Form.h"
+#include "frame/Campos.h"
 
 namespace vardena {
 
-// The heading of the group of the element's identity (its title, its level).
-inline constexpr int kMsgGrupoElemento = 1500;
 
 // A group of controls as the element window shows it.
 struct GrupoCampos {

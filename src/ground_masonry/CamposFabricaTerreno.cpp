@@ -200,7 +200,7 @@ constexpr GrupoDef kGruposZap[] = {
     {"UCframePlanta", 0, kZapPlanta, {}, 1},
     {"UCframeViga(0)", 0, kZapVigaX, {}, 1},
     {"UCframeViga(1)", 0, kZapVigaY, {}, 1},
-    {"", 1501, kCamposMateriales, {}, 1},
+    {"", kMsgGrupoMateriales, kCamposMateriales, {}, 1},
     {"UCframeCotas", 0, kZapCotas, {}, 1},
 };
 // The combined footing's window: the loads of each of its two columns, the ground, its

@@ -27,29 +27,16 @@ constexpr double kMinimo = 5;
 // the arrows of the surcharge and of the head loads, the anchors.
 constexpr double kCantoForjado = 25;
 
-// Maps the section's cm onto the picture's twips.
-struct Escala {
-    double xmin, ymin, s;
-    PuntoCroquis operator()(double x, double y) const
-    {
-        return {kMargen + static_cast<int>(std::lround((x - xmin) * s)),
-                kMargen + static_cast<int>(std::lround((y - ymin) * s))};
-    }
-};
+using Escala = EscalaCroquis;
 
 Croquis Lienzo(double xmin, double xmax, double ymin, double ymax, Escala& e)
 {
-    const double ancho = std::max(xmax - xmin, 1.0), alto = std::max(ymax - ymin, 1.0);
-    e = {xmin, ymin, kLado / std::max(ancho, alto)};
-    return {static_cast<int>(ancho * e.s) + 2 * kMargen, static_cast<int>(alto * e.s) + 2 * kMargen, {}};
+    return LienzoEscalado(xmin, xmax, ymin, ymax, kLado, kMargen, e);
 }
 
 void Poligono(Croquis& c, P papel, const Escala& e, std::initializer_list<std::pair<double, double>> puntos)
 {
-    TrazoCroquis t{FiguraCroquis::Poligono, papel, {}};
-    for (const auto& [x, y] : puntos)
-        t.puntos.push_back(e(x, y));
-    c.trazos.push_back(std::move(t));
+    PoligonoEscalado(c, papel, e, puntos);
 }
 
 double Largo(const Form& f, std::string_view campo, int index = -1)

@@ -98,18 +98,9 @@ std::optional<Croquis> Talud::CroquisDe(const Control& picture) const
     const double L = RecorridoTalud(H, angulo_).value_or(0);
     const double meseta = std::max(H * 0.6, 60.0), F = H * 0.35;
     const double xmin = -meseta, xmax = L + meseta, ymin = -H * 0.25, ymax = H + F;
-    const double s = kLado / std::max(xmax - xmin, ymax - ymin);
-    auto e = [&](double x, double y) {
-        return PuntoCroquis{kMargen + static_cast<int>(std::lround((x - xmin) * s)),
-                            kMargen + static_cast<int>(std::lround((y - ymin) * s))};
-    };
-    Croquis c{static_cast<int>((xmax - xmin) * s) + 2 * kMargen, static_cast<int>((ymax - ymin) * s) + 2 * kMargen, {}};
-    auto poligono = [&](P papel, std::initializer_list<std::pair<double, double>> puntos) {
-        TrazoCroquis t{FiguraCroquis::Poligono, papel, {}};
-        for (const auto& [x, y] : puntos)
-            t.puntos.push_back(e(x, y));
-        c.trazos.push_back(std::move(t));
-    };
+    EscalaCroquis e;
+    Croquis c = LienzoEscalado(xmin, xmax, ymin, ymax, kLado, kMargen, e);
+    auto poligono = [&](P papel, std::initializer_list<std::pair<double, double>> puntos) { PoligonoEscalado(c, papel, e, puntos); };
     poligono(P::Terreno, {{xmin, 0}, {0, 0}, {L, H}, {xmax, H}, {xmax, ymax}, {xmin, ymax}});
     if (At("chkEstrato").CheckValue() != 0) {
         const double espesor = std::clamp(CotaTalud(*this, "TxCotaTalud", kEstratoTalud), 1.0, F + H);

@@ -147,14 +147,7 @@ constexpr GrupoDef kGruposVigMet[] = {
 // The steel column's window: its level and loads, its position in plan with the plan and the
 // distances of that position, its section and the beams that reach it, and the effective
 // length: the end conditions and the coefficients worked out from them.
-constexpr std::string_view kPilMetNivel[] = {"txtTitulo", "CmbPlanta", "ChPilSup", "LePil(12)"};
 constexpr std::string_view kPilMetMateriales[] = {"CmbAcero", "CmbCaso"};
-constexpr std::string_view kPilMetEsfuerzos[] = {"TxtQ(2)", "TxtQ(0)", "TxtQ(1)"};
-constexpr std::string_view kPilMetCerramiento[] = {"LbP1(0)", "TxtQ(3)"};
-constexpr std::string_view kPilMetPosicion[] = {"OpPosPil(0)", "OpPosPil(1)", "OpPosPil(2)", "Ptpilar"};
-constexpr std::string_view kPilMetLucesEsquina[] = {"LePil(0)", "LePil(1)", "LePil(2)", "LePil(3)"};
-constexpr std::string_view kPilMetLucesBorde[] = {"LePil(8)", "LePil(9)", "LePil(10)", "LePil(11)"};
-constexpr std::string_view kPilMetLucesCentro[] = {"LePil(4)", "LePil(5)", "LePil(6)", "LePil(7)"};
 constexpr std::string_view kPilMetPerfil[] = {"UCPerfil1", "cmbClase", "cmdClase"};
 constexpr std::string_view kPilMetVigas[] = {"UCViga(0)", "UCViga(1)", "UCViga(2)", "UCViga(3)"};
 constexpr std::string_view kPilMetExtremos[] = {"ChkArriostradaX", "ChkArriostradaY", "ChRotS", "ChRotI"};
@@ -164,14 +157,14 @@ constexpr std::string_view kPilMetCoeficientes[] = {
     "LbNomEta1Y", "LbSimEta1Y", "LbEta1Y", "LbNomEta2Y", "LbSimEta2Y", "LbEta2Y", "LbNomBetaY", "LbSimBetaY", "LbBetaY"};
 constexpr std::string_view kPilMetResultados[] = {"TxtRes1", "TxtRes2"};
 constexpr GrupoDef kGruposPilMet[] = {
-    {"", kMsgGrupoElemento, kPilMetNivel, "", 0},
-    {"", 1501, kPilMetMateriales, "", 0},
-    {"UCframeEsf", 0, kPilMetEsfuerzos, "", 0},
-    {"LbCer", 0, kPilMetCerramiento, "", 0},
-    {"UCframePos", 0, kPilMetPosicion, "", 1},
-    {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
-    {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
-    {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"", kMsgGrupoElemento, kPilarNivel, "", 0},
+    {"", kMsgGrupoMateriales, kPilMetMateriales, "", 0},
+    {"UCframeEsf", 0, kPilarEsfuerzos, "", 0},
+    {"LbCer", 0, kPilarCerramiento, "", 0},
+    {"UCframePos", 0, kPilarPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilarLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilarLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilarLucesCentro, "", 1},
     {"UCframePandeo", 0, kPilMetExtremos, "", 0},
     {"UCframeCurvas", 0, kPilMetCurvas, "", 0},
     {"UCframeBeta", 0, kPilMetCoeficientes, "", 1, true},
@@ -214,15 +207,15 @@ constexpr std::string_view kPilMadeFuego[] = {"txtEF"};
 constexpr std::string_view kPilMadeCurvas[] = {"TxtBetaX", "TxtBetaY"};
 constexpr std::string_view kPilMadeResultados[] = {"TxtRes1", "TxtRes2", "TxtRes3"};
 constexpr GrupoDef kGruposPilMade[] = {
-    {"", kMsgGrupoElemento, kPilMetNivel, "", 0},
-    {"", 1501, kPilMadeMateriales, "", 0},
-    {"UCframeEsf", 0, kPilMetEsfuerzos, "", 0},
-    {"LbCer", 0, kPilMetCerramiento, "", 0},
+    {"", kMsgGrupoElemento, kPilarNivel, "", 0},
+    {"", kMsgGrupoMateriales, kPilMadeMateriales, "", 0},
+    {"UCframeEsf", 0, kPilarEsfuerzos, "", 0},
+    {"LbCer", 0, kPilarCerramiento, "", 0},
     {"UCframePandeo", 0, kPilMetExtremos, "", 0},
-    {"UCframePos", 0, kPilMetPosicion, "", 1},
-    {"UCframeLucesEsq", 0, kPilMetLucesEsquina, "", 1},
-    {"UCframeLucesBor", 0, kPilMetLucesBorde, "", 1},
-    {"UCframeLucesCen", 0, kPilMetLucesCentro, "", 1},
+    {"UCframePos", 0, kPilarPosicion, "", 1},
+    {"UCframeLucesEsq", 0, kPilarLucesEsquina, "", 1},
+    {"UCframeLucesBor", 0, kPilarLucesBorde, "", 1},
+    {"UCframeLucesCen", 0, kPilarLucesCentro, "", 1},
     {"UCframeSeccion", 0, kPilMadeSeccion, "", 2},
     {"FrmFuego", 0, kPilMadeFuego, "", 2},
     {"UCframeCurvas", 0, kPilMadeCurvas, "", 2},
@@ -238,7 +231,7 @@ constexpr std::string_view kVigMadeSeccion[] = {"TextDviga(0)", "TextDviga(1)"};
 constexpr std::string_view kVigMadeFuego[] = {"txtEF", "txtResF1", "txtResF2"};
 constexpr GrupoDef kGruposVigMade[] = {
     {"", kMsgGrupoElemento, kCamposIdentidad, {}, 0},
-    {"", 1501, kVigMadeMateriales, {}, 0},
+    {"", kMsgGrupoMateriales, kVigMadeMateriales, {}, 0},
     {"FrDatosViga", 0, kVigMadeDatos, {}, 0},
     {"FrCargaComp", 0, kVigMadeCargaComp, {}, 0},
     {"FrSeccionViga", 0, kVigMadeSeccion, {}, 0},

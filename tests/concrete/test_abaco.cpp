@@ -36,20 +36,7 @@ protected:
         Declaraciones& d = app.decl;
         d.CarpetaObra = dir.path();
         CargaMensajesDesde(d, ResourceDir() + "/lng/Español/MsgVardena.txt");
-        d.NPlantasSobre = 3;
-        d.NPlantasBajo = 1;
-        const float ppro[] = {0.25f, 0.25f, 0.25f, 0.375f}, conc[] = {0.125f, 0.25f, 0.25f, 0.25f};
-        const float stab[] = {0, 0.125f, 0.125f, 0.125f}, sobr[] = {0.125f, 0.25f, 0.25f, 0.375f};
-        for (size_t i = 0; i < 4; ++i) {
-            d.GenPProP[i] = ppro[i];
-            d.GenConcP[i] = conc[i];
-            d.GenSTabP[i] = stab[i];
-            d.GenSobrP[i] = sobr[i];
-        }
-        d.GenPProS[1] = 0.5f;
-        d.GenConcS[1] = 0.25f;
-        d.GenSTabS[1] = 0;
-        d.GenSobrS[1] = 0.5f;
+        test::PonPlantasDePrueba(d);
         d.GenControl = 1;
     }
     std::unique_ptr<Abaco> Load()

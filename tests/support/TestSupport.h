@@ -45,6 +45,12 @@ struct TestApp {
 
 // Writes `text` (UTF-8, "\n" line ends) as Windows-1252 with CR LF.
 void WriteDiskText(const std::string& path, const std::string& text);
+
+// A work of three floors and a basement with the loads (t/m2) the element tests work their
+// figures from: per floor (roof first) self-weight 0.25, 0.25, 0.25, 0.375, finishes 0.125,
+// 0.25, 0.25, 0.25, partitions 0, 0.125, 0.125, 0.125, use 0.125, 0.25, 0.25, 0.375; on the
+// basement's row 1 self-weight 0.5, finishes 0.25, partitions 0, use 0.5.
+void PonPlantasDePrueba(Declaraciones& d);
 // Reads a file and returns it as UTF-8 with "\n" line ends.
 std::string ReadDiskText(const std::string& path);
 std::string ReadBytes(const std::string& path);
